@@ -1,0 +1,6 @@
+#include "model/SelectionTreeUnit.h"
+
+SelectionTreeUnit::~SelectionTreeUnit()
+{
+    deleteDescendants(*this);
+}
