@@ -1,0 +1,48 @@
+#pragma once
+
+#include "models/base/RowListModel.h"
+
+#include <QStringList>
+
+/// A row list that items are dragged from: they can be picked up, and every place takes drops.
+template <typename Item>
+class DragListModel : public RowListModel<Item>
+{
+public:
+    /// Stores nothing. An edit of an item is announced and answered with true, so that views take it as done.
+    bool setData(const QModelIndex &index, const QVariant &, int = Qt::EditRole) override
+    {
+        if (!this->itemAt(index))
+            return false;
+        Q_EMIT this->dataChanged(index, index);
+        return true;
+    }
+
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override
+    {
+        const Qt::ItemFlags flags = QAbstractItemModel::flags(index) | Qt::ItemIsDropEnabled;
+        return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags;
+    }
+
+protected:
+    using RowListModel<Item>::RowListModel;
+};
+
+/// Adds to \a Base, an item model, that its items travel as a list of texts that may be copied or moved.
+template <typename Base>
+class TextListDrag : public Base
+{
+public:
+    [[nodiscard]] QStringList mimeTypes() const override
+    {
+        return {QStringLiteral("application/vnd.text.list")};
+    }
+
+    [[nodiscard]] Qt::DropActions supportedDropActions() const override
+    {
+        return Qt::CopyAction | Qt::MoveAction;
+    }
+
+protected:
+    using Base::Base;
+};
