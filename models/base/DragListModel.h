@@ -4,6 +4,12 @@
 
 #include <QStringList>
 
+namespace TextList
+{
+/// The type under which a list of texts is dragged.
+inline constexpr QLatin1StringView mimeType("application/vnd.text.list");
+} // namespace TextList
+
 /// A row list that items are dragged from: they can be picked up, and every place takes drops.
 template <typename Item>
 class DragListModel : public RowListModel<Item>
@@ -26,6 +32,25 @@ public:
 
 protected:
     using RowListModel<Item>::RowListModel;
+
+    /// Shows \a items, for constructors. One row is announced whatever their number, as nobody listens yet.
+    void fill(const QList<Item *> &items)
+    {
+        this->beginInsertRows({}, 0, 0);
+        this->m_rows = items;
+        this->endInsertRows();
+    }
+
+    /// The objects behind \a indexes, in their order, as often as they occur there.
+    [[nodiscard]] QList<Item *> itemsAt(const QModelIndexList &indexes) const
+    {
+        QList<Item *> items;
+        for (const QModelIndex &index : indexes) {
+            if (Item *item = this->itemAt(index))
+                items.append(item);
+        }
+        return items;
+    }
 };
 
 /// Adds to \a Base, an item model, that its items travel as a list of texts that may be copied or moved.
@@ -33,10 +58,7 @@ template <typename Base>
 class TextListDrag : public Base
 {
 public:
-    [[nodiscard]] QStringList mimeTypes() const override
-    {
-        return {QStringLiteral("application/vnd.text.list")};
-    }
+    [[nodiscard]] QStringList mimeTypes() const override { return {TextList::mimeType}; }
 
     [[nodiscard]] Qt::DropActions supportedDropActions() const override
     {

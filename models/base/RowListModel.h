@@ -28,10 +28,10 @@ public:
 protected:
     explicit RowListModel(QObject *parent) : QAbstractItemModel(parent) { }
 
-    /// The object behind \a index; null for an invalid index and for one that carries no object.
-    [[nodiscard]] static Item *itemAt(const QModelIndex &index)
+    /// The object behind \a index; null for an invalid index, one of another model and one without an object.
+    [[nodiscard]] Item *itemAt(const QModelIndex &index) const
     {
-        return index.isValid() ? static_cast<Item *>(index.internalPointer()) : nullptr;
+        return index.model() == this ? static_cast<Item *>(index.internalPointer()) : nullptr;
     }
 
     QList<Item *> m_rows; // The objects are not owned.
