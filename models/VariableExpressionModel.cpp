@@ -1,0 +1,7 @@
+#include "models/VariableExpressionModel.h"
+
+VariableExpressionModel::VariableExpressionModel(QObject *parent, QList<TDcVariable *> *items,
+                                                 eEntityShowMode mode)
+    : NamedExpressionModel(parent, items, mode)
+{
+}
