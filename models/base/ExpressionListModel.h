@@ -45,10 +45,7 @@ protected:
     ExpressionListModel(QObject *parent, const QList<Item *> *items, eEntityShowMode mode)
         : DragListModel<Item>(parent), m_mode(mode)
     {
-        this->beginInsertRows({}, 0, 0); // One row, however many come: nobody listens yet.
-        if (items)
-            *m_list = *items;
-        this->endInsertRows();
+        this->fill(items ? *items : QList<Item *>());
     }
 
     const eEntityShowMode m_mode;
