@@ -1,0 +1,7 @@
+#include "models/VariableModelSplitStep3.h"
+
+VariableModelSplitStep3::VariableModelSplitStep3(QObject *parent, TDcEntity *,
+                                                 QList<TDcVariable *> *variables)
+    : CheckListModel(parent, *variables, 3)
+{
+}

@@ -1,0 +1,22 @@
+#include "models/base/TextSearchProxyModel.h"
+
+#include "models/internal/TextFilter.h"
+
+TextSearchProxyModel::TextSearchProxyModel(QObject *parent, int columns)
+    : QSortFilterProxyModel(parent), m_columns(columns), m_filter(std::make_unique<TextFilter>())
+{
+}
+
+TextSearchProxyModel::~TextSearchProxyModel() = default;
+
+bool TextSearchProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
+{
+    m_filter->setExpression(filterRegularExpression());
+    if (m_filter->matchesEverything() || m_filter->matchesNothing())
+        return m_filter->matchesEverything();
+    for (int column = 0; column < m_columns; ++column) {
+        if (m_filter->matches(sourceModel()->index(sourceRow, column, sourceParent).data().toString()))
+            return true;
+    }
+    return false;
+}
