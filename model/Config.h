@@ -3,13 +3,14 @@
 #include "model/ConfigDb.h"
 #include "model/ConfigEntities.h"
 #include "model/ConfigOptions.h"
+#include "model/DocumentOrigin.h"
 #include "model/model_quillon_export.h"
 #include "model/OwnedList.h"
 
 #include <memory>
 
 /// A run configuration: a database, options and the entities that take part. Owns its three parts.
-class MODEL_QUILLON_EXPORT Config
+class MODEL_QUILLON_EXPORT Config : public FromDocument
 {
 public:
     Config() = default;

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "model/DocumentOrigin.h"
 #include "model/model_quillon_export.h"
 
 #include <QString>
 
 /// The database that a run is created from.
-class MODEL_QUILLON_EXPORT ConfigDb
+class MODEL_QUILLON_EXPORT ConfigDb : public FromDocument
 {
 public:
     ConfigDb() = default;

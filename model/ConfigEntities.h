@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/DocumentOrigin.h"
 #include "model/model_quillon_export.h"
 
 #include <memory>
@@ -7,7 +8,7 @@
 #include <QString>
 
 /// How one entity takes part in a run.
-class MODEL_QUILLON_EXPORT ConfigEntities
+class MODEL_QUILLON_EXPORT ConfigEntities : public FromDocument
 {
 public:
     ConfigEntities() = default;

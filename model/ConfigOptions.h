@@ -1,11 +1,12 @@
 #pragma once
 
+#include "model/DocumentOrigin.h"
 #include "model/model_quillon_export.h"
 
 #include <QtGlobal>
 
 /// The options of a run.
-class MODEL_QUILLON_EXPORT ConfigOptions
+class MODEL_QUILLON_EXPORT ConfigOptions : public FromDocument
 {
 public:
     ConfigOptions() = default;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/DocumentOrigin.h"
 #include "model/model_quillon_export.h"
 #include "model/OwnedList.h"
 #include "model/Range.h"
@@ -9,7 +10,7 @@
 /// Where a variable's values lie in a source record, and which ranges they may take.
 ///
 /// Owns its ranges.
-class MODEL_QUILLON_EXPORT MetadataVariables
+class MODEL_QUILLON_EXPORT MetadataVariables : public FromDocument
 {
 public:
     MetadataVariables() = default;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "model/DocumentOrigin.h"
+
 /// One interval of valid values, both bounds included. A plain value; no order of the bounds is enforced.
-class Range
+class Range : public FromDocument
 {
 public:
     [[nodiscard]] double getRangeMin() const { return m_rangeMin; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/DocumentOrigin.h"
 #include "model/model_quillon_export.h"
 #include "model/OwnedList.h"
 
@@ -11,7 +12,7 @@ class TDcVariable;
 ///
 /// Owns its children and its variables and deletes them when it goes. The lists are live: what is appended
 /// to getChildren() or getVariables() belongs to the entity, what is taken out belongs to whoever took it.
-class MODEL_QUILLON_EXPORT TDcEntity
+class MODEL_QUILLON_EXPORT TDcEntity : public FromDocument
 {
 public:
     TDcEntity();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/MetadataVariables.h"
+#include "model/DocumentOrigin.h"
 #include "model/model_quillon_export.h"
 #include "model/OwnedList.h"
 
@@ -12,7 +13,7 @@ class ValueLabelElement;
 /// One variable of an entity: what it is called, which values it takes and where they lie in a record.
 ///
 /// Owns its metadata and its value labels.
-class MODEL_QUILLON_EXPORT TDcVariable
+class MODEL_QUILLON_EXPORT TDcVariable : public FromDocument
 {
 public:
     TDcVariable();

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "model/DocumentOrigin.h"
 #include "model/model_quillon_export.h"
 
 #include <QString>
 #include <utility>
 
 /// One category of a variable: a code and what it stands for. The code is text for every type of variable.
-class MODEL_QUILLON_EXPORT ValueLabelElement
+class MODEL_QUILLON_EXPORT ValueLabelElement : public FromDocument
 {
 public:
     ValueLabelElement() = default;

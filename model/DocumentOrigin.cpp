@@ -1,0 +1,3 @@
+#include "model/DocumentOrigin.h"
+
+DocumentOrigin::~DocumentOrigin() = default;
