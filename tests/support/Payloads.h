@@ -4,6 +4,8 @@
 
 #include <QDataStream>
 #include <QIODevice>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMimeData>
 #include <QStringList>
 
@@ -45,6 +47,28 @@ inline QString payloadType()
     while (!stream.atEnd())
         stream >> texts.emplaceBack();
     return texts;
+}
+
+[[nodiscard]] inline QString toText(const QJsonObject &object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson());
+}
+
+/// The payload text of a dataset's field.
+[[nodiscard]] inline QString fieldText(const QString &name, const QString &label = {},
+                                       const QString &type = QStringLiteral("STRING"))
+{
+    return toText({{QStringLiteral("name"), name},
+                   {QStringLiteral("label"), label},
+                   {QStringLiteral("fieldType"), type}});
+}
+
+[[nodiscard]] inline QString lookupText(const QString &id, const QString &label = {})
+{
+    return toText({{QStringLiteral("name"), id},
+                   {QStringLiteral("label"), label},
+                   {QStringLiteral("tag"), QStringLiteral("*")},
+                   {QStringLiteral("type"), QStringLiteral("LOOKUP")}});
 }
 
 /// A field of type \a type that takes values from \a min to \a max.
