@@ -1,0 +1,100 @@
+#include "documents/DictionaryFile.h"
+
+#include "business/ProcessDictionaryBusiness.h"
+#include "documents/internal/DictionaryDocument.h"
+#include "documents/internal/JsonText.h"
+#include "documents/internal/Keys.h"
+#include "model/OwnedList.h"
+#include "model/TDcEntity.h"
+
+#include <algorithm>
+
+using namespace Elements;
+using namespace Qt::Literals::StringLiterals;
+
+/// What stands around the root entity.
+struct DictionaryFile::Frame {
+    QString key = u"root"_s; ///< Of the root; empty when the document is the root itself or an array.
+    Form form = Form::Element;
+    QVariantMap others; ///< The other keys beside the root's.
+    JsonText::Style style;
+};
+
+namespace
+{
+/// Whether \a map is an entity, not an object that holds one under "entities" or "root". Both may have a
+/// name; an entity has its children under "entities", and its keys are written nowhere else.
+bool isEntity(const QVariantMap &map)
+{
+    const auto hasOneOf = [&map](std::initializer_list<QLatin1StringView> keys) {
+        return std::any_of(keys.begin(), keys.end(), [&map](auto key) { return map.contains(key); });
+    };
+    if (hasOneOf({"codeVar"_L1, "labelVar"_L1, "selectable"_L1, "variables"_L1, "virtual"_L1, "weightVar"_L1,
+                  "weigthVar"_L1}))
+        return true;
+    const bool isNamed = hasOneOf({"alias"_L1, "documentation"_L1, "label"_L1, "name"_L1});
+    return isNamed && (map.contains(u"entities"_s) || !map.contains(u"root"_s));
+}
+} // namespace
+
+DictionaryFile::DictionaryFile() : m_root(std::make_unique<TDcEntity>()), m_frame(std::make_unique<Frame>())
+{
+}
+
+DictionaryFile::~DictionaryFile() = default;
+
+void DictionaryFile::setRoot(std::unique_ptr<TDcEntity> root)
+{
+    m_root = std::move(root);
+}
+
+std::unique_ptr<TDcEntity> DictionaryFile::takeRoot()
+{
+    return std::exchange(m_root, std::make_unique<TDcEntity>());
+}
+
+bool DictionaryFile::load(const QByteArray &bytes)
+{
+    const JsonText::Content text = JsonText::read(bytes);
+    if (!text.value.isValid())
+        return fail(Error::Malformed, text.problem);
+
+    Frame frame{.key = {}, .form = Form::Single, .others = {}, .style = text.style};
+    QVariant roots = text.value;
+    if (QVariantMap map = text.value.toMap(); !isEntity(map) && roots.typeId() == QMetaType::QVariantMap) {
+        frame.key = map.contains(u"entities"_s) ? u"entities"_s : u"root"_s;
+        roots = map.take(frame.key);
+        frame.others = map;
+    }
+    if (roots.typeId() == QMetaType::QVariantList)
+        frame.form = Form::Element;
+
+    OwnedList<TDcEntity> entities;
+    if (roots.typeId() == QMetaType::QVariantList || roots.typeId() == QMetaType::QVariantMap)
+        entities.reset(
+            ProcessDictionaryBusiness().recorrerNodosJsonYCargaEstructuraEntidades({{u"root"_s, roots}}, 0));
+    if (entities.get()->isEmpty())
+        return fail(Error::NoRoot, tr("There is no root entity."));
+    if (entities.get()->size() > 1)
+        return fail(Error::SeveralRoots,
+                    tr("There are %1 root entities instead of one.").arg(entities.get()->size()));
+
+    forEach(*entities.get(), roots, DictionaryDocument::remember);
+    m_root.reset(entities.get()->takeFirst());
+    *m_frame = std::move(frame);
+    return true;
+}
+
+QByteArray DictionaryFile::content() const
+{
+    QJsonObject written;
+    ProcessDictionaryBusiness().getStructuraTreeRootToJson(m_root.get(), &written);
+    DictionaryDocument::restore(*m_root, written, m_frame->form);
+    const QJsonValue root = withElement(*m_root, written);
+    const QJsonValue value = m_frame->form == Form::Single && !written.isEmpty() ? root : QJsonArray{root};
+    if (m_frame->key.isEmpty())
+        return JsonText::write(value, m_frame->style);
+    QJsonObject document = QJsonObject::fromVariantMap(m_frame->others);
+    document.insert(m_frame->key, value);
+    return JsonText::write(document, m_frame->style);
+}

@@ -1,0 +1,134 @@
+#include "documents/DocumentFile.h"
+
+#include "documents/internal/JsonLosses.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QSaveFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+constexpr auto anyoneMayWrite = QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+
+size_t digestOf(const QByteArray &bytes)
+{
+    return qHashBits(bytes.constData(), size_t(bytes.size()));
+}
+
+/// The whole content of a regular file; null with \a problem set when it cannot be had.
+QByteArray contentOf(const QString &path, QString *problem)
+{
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) {
+        *problem = DocumentFile::tr("It is not a file.");
+        return {};
+    }
+    QFile file(path);
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.readAll();
+    if (file.error() != QFile::NoError) {
+        *problem = file.errorString();
+        return {};
+    }
+    return bytes.isNull() ? QByteArray("") : bytes;
+}
+
+/// Where the content lies: a link to a file stays a link.
+QString resolved(const QString &path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() ? path : canonical;
+}
+} // namespace
+
+bool DocumentFile::fail(Error error, const QString &text)
+{
+    m_error = error;
+    m_errorText = text;
+    return false;
+}
+
+void DocumentFile::remember(const QString &path, const QByteArray &bytes)
+{
+    m_path = path;
+    m_digest = digestOf(bytes);
+    m_error = Error::None;
+    m_errorText.clear();
+}
+
+bool DocumentFile::open(const QString &path)
+{
+    QString problem;
+    const QByteArray bytes = contentOf(path, &problem);
+    if (bytes.isNull())
+        return fail(Error::CannotRead,
+                    tr("%1 cannot be read: %2").arg(QDir::toNativeSeparators(path), problem));
+    if (!load(bytes)) {
+        m_errorText.prepend(QDir::toNativeSeparators(path) + u": "_s); // load() said what, not where.
+        return false;
+    }
+    m_losses = JsonLosses::of(bytes);
+    remember(path, bytes);
+    return true;
+}
+
+bool DocumentFile::isReadOnly() const
+{
+    // Some users may write whatever they like; what a file says about itself counts for them as well.
+    const QFileInfo info(m_path);
+    return info.exists() && (!info.isWritable() || !(info.permissions() & anyoneMayWrite));
+}
+
+bool DocumentFile::isChangedByOthers() const
+{
+    QString problem;
+    const QByteArray bytes =
+        m_digest && QFileInfo::exists(m_path) ? contentOf(m_path, &problem) : QByteArray();
+    // A file that cannot be read any more has been changed as well.
+    return !problem.isEmpty() || (!bytes.isNull() && digestOf(bytes) != *m_digest);
+}
+
+bool DocumentFile::save(SaveOptions options)
+{
+    const QString native = QDir::toNativeSeparators(m_path);
+    if (m_path.isEmpty())
+        return fail(Error::CannotWrite, tr("There is no file yet to be saved to."));
+    if (isReadOnly())
+        return fail(Error::ReadOnly, tr("%1 is read-only.").arg(native));
+    if (!options.testFlag(OverwriteOthersChanges) && isChangedByOthers())
+        return fail(Error::ChangedByOthers, tr("%1 has been changed since it was opened.").arg(native));
+    if (!options.testFlag(AcceptLosses) && !m_losses.isEmpty())
+        return fail(Error::LosesContent,
+                    tr("%1 holds what cannot be kept:").arg(native) + u'\n' + m_losses.join(u'\n'));
+    return overwrite(m_path);
+}
+
+bool DocumentFile::saveAs(const QString &path, SaveOptions options)
+{
+    if (!m_path.isEmpty() && resolved(path) == resolved(m_path))
+        return save(options);
+    return overwrite(path);
+}
+
+bool DocumentFile::overwrite(const QString &path)
+{
+    const QByteArray bytes = content();
+    QSaveFile file(resolved(path)); // Takes over the permissions of the file that it replaces.
+    bool done = file.open(QIODevice::WriteOnly);
+    // Before there is anything to be read.
+    if (done && isSecret())
+        done = file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    done = done && file.write(bytes) == bytes.size() && file.commit();
+    if (!done) {
+        return fail(Error::CannotWrite,
+                    tr("%1 cannot be written: %2").arg(QDir::toNativeSeparators(path), file.errorString()));
+    }
+    remember(path, bytes);
+    m_losses.clear();
+    return true;
+}

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "documents/documents_export.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QFlags>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// A document in a file: what opening and saving have in common, whatever the document holds.
+///
+/// Opening and saving again without an edit gives an equal document; an edit changes what it edits and
+/// nothing else. The file itself is replaced in one step: whatever happens while it is saved, it holds the
+/// old content or the new one.
+class DOCUMENTS_EXPORT DocumentFile
+{
+    Q_DECLARE_TR_FUNCTIONS(DocumentFile)
+
+public:
+    enum class Error {
+        None,
+        CannotRead,
+        Malformed, ///< No JSON text; errorText() says where.
+        NoRoot, ///< A dictionary without a root entity, or a document of another kind.
+        SeveralRoots,
+        ReadOnly,
+        ChangedByOthers, ///< Needs OverwriteOthersChanges to be saved.
+        LosesContent, ///< losses() says what; needs AcceptLosses to be saved.
+        CannotWrite
+    };
+
+    enum SaveOption { OverwriteOthersChanges = 1, AcceptLosses = 2 };
+    Q_DECLARE_FLAGS(SaveOptions, SaveOption)
+
+    DocumentFile() = default;
+    virtual ~DocumentFile() = default;
+    Q_DISABLE_COPY_MOVE(DocumentFile)
+
+    /// Reads the file at \a path. False when that fails: then error() and errorText() say why, and all else
+    /// stays as it was.
+    [[nodiscard]] bool open(const QString &path);
+
+    /// Overwrites the file that was opened or saved last. False when that fails or must not be done without
+    /// being told to; then the file is as it was.
+    [[nodiscard]] bool save(SaveOptions options = {});
+
+    /// Writes the file at \a path, new or not, and goes on with it. The same as save() for the present path.
+    [[nodiscard]] bool saveAs(const QString &path, SaveOptions options = {});
+
+    /// Empty until a file was opened or saved.
+    [[nodiscard]] QString path() const { return m_path; }
+
+    /// Whether nobody may write the file; save() then fails and saveAs() elsewhere does not.
+    [[nodiscard]] bool isReadOnly() const;
+
+    /// Whether the content of the file is another one than when it was opened or saved last. A file that is
+    /// gone has not changed.
+    [[nodiscard]] bool isChangedByOthers() const;
+
+    /// What saving cannot keep of the file as it was opened, one line for each place: keys that an object
+    /// has more than once and numbers with more digits than a number has.
+    [[nodiscard]] QStringList losses() const { return m_losses; }
+
+    /// Why the last operation failed.
+    [[nodiscard]] Error error() const { return m_error; }
+    [[nodiscard]] QString errorText() const { return m_errorText; }
+
+protected:
+    /// Takes the content of a file over, or fails and changes nothing.
+    virtual bool load(const QByteArray &bytes) = 0;
+    /// The content to be saved.
+    [[nodiscard]] virtual QByteArray content() const = 0;
+    /// Whether nobody but the file's owner may read what is saved.
+    [[nodiscard]] virtual bool isSecret() const { return false; }
+
+    /// Notes why an operation fails. False, for the caller to return.
+    bool fail(Error error, const QString &text);
+
+private:
+    bool overwrite(const QString &path);
+    void remember(const QString &path, const QByteArray &bytes);
+
+    QString m_path;
+    std::optional<size_t> m_digest; // Of the file's content as it was seen last.
+    QStringList m_losses;
+    Error m_error = Error::None;
+    QString m_errorText;
+};
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(DocumentFile::SaveOptions)

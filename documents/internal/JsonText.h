@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+
+class QJsonValue;
+
+/// JSON as it stands in files. Only this knows how bytes become values.
+namespace JsonText
+{
+/// How a text looks besides its value.
+struct Style {
+    bool byteOrderMark = false;
+    bool indented = true;
+};
+
+/// The value of a text: a QVariantMap or a QVariantList; invalid for malformed text, and then `problem` says
+/// what is wrong in which line and column, both counted from 1.
+struct Content {
+    QVariant value;
+    Style style;
+    QString problem;
+};
+
+[[nodiscard]] Content read(const QByteArray &bytes);
+
+/// The text of \a value, an object or an array.
+[[nodiscard]] QByteArray write(const QJsonValue &value, Style style);
+
+/// The place of the byte at \a offset as "line 3, column 5". Columns are characters.
+[[nodiscard]] QString place(const QByteArray &bytes, qsizetype offset);
+} // namespace JsonText
