@@ -1,0 +1,163 @@
+#include "documents/sources/internal/CsvTable.h"
+
+#include "documents/sources/internal/CsvDialect.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringDecoder>
+
+#include <csv.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+constexpr qint64 ChunkSize = 1 << 16;
+
+/// The parser, fed line by line, so that every row and every error has its line.
+class RowParser
+{
+public:
+    RowParser(char delimiter, const CsvTable::RowHandler &handle) : m_handle(handle)
+    {
+        csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI);
+        csv_set_delim(&m_parser, static_cast<unsigned char>(delimiter));
+    }
+    ~RowParser() { csv_free(&m_parser); }
+    Q_DISABLE_COPY_MOVE(RowParser)
+
+    /// Returns what is wrong; row() is where.
+    QString feed(QStringView line)
+    {
+        ++m_line;
+        if (m_betweenRows && !line.trimmed().isEmpty()) {
+            m_betweenRows = false;
+            m_row.line = m_line;
+        }
+        if (line.contains(QChar::Null))
+            return at(m_line, CsvTable::tr("A zero byte: this is no text file, or of another encoding."));
+        const QByteArray bytes = line.toUtf8();
+        const size_t done =
+            csv_parse(&m_parser, bytes.constData(), size_t(bytes.size()), onCell, onRow, this);
+        if (m_problem.isEmpty() && done != size_t(bytes.size()))
+            return at(m_line, parseProblem());
+        return m_problem;
+    }
+
+    QString finish()
+    {
+        if (csv_fini(&m_parser, onCell, onRow, this) != 0 && m_problem.isEmpty())
+            return at(m_row.line, CsvTable::tr("The quotation marks that this row opens are never closed."));
+        if (m_problem.isEmpty() && m_rows == 0)
+            return at(1, CsvTable::tr("The file holds no rows."));
+        return m_problem;
+    }
+
+    [[nodiscard]] qint64 problemLine() const { return m_problemLine; }
+    [[nodiscard]] qint64 line() const { return m_line; }
+    [[nodiscard]] qint64 rows() const { return m_rows; }
+
+private:
+    QString at(qint64 line, const QString &problem)
+    {
+        m_problemLine = line;
+        return m_problem = problem;
+    }
+
+    QString parseProblem()
+    {
+        if (csv_error(&m_parser) == CSV_EPARSE)
+            return CsvTable::tr("A quotation mark stands where none may stand.");
+        return QString::fromLatin1(csv_strerror(csv_error(&m_parser)));
+    }
+
+    static void onCell(void *text, size_t length, void *self)
+    {
+        static_cast<RowParser *>(self)->m_row.cells.append(
+            QString::fromUtf8(static_cast<const char *>(text), qsizetype(length)));
+    }
+
+    static void onRow(int /*terminator*/, void *self) { static_cast<RowParser *>(self)->endRow(); }
+
+    void endRow()
+    {
+        m_betweenRows = true;
+        const qsizetype count = m_row.cells.size();
+        if (m_rows++ == 0)
+            m_columns = count;
+        if (!m_problem.isEmpty())
+            return;
+        if (count != m_columns)
+            at(m_row.line, CsvTable::tr("%1 cells where the first row has %2.").arg(count).arg(m_columns));
+        else if (const QString problem = m_handle(m_row); !problem.isEmpty())
+            at(m_row.line, problem);
+        m_row.cells.clear();
+    }
+
+    const CsvTable::RowHandler &m_handle;
+    csv_parser m_parser{};
+    CsvRow m_row;
+    qint64 m_line = 0;
+    bool m_betweenRows = true;
+    qint64 m_rows = 0;
+    qsizetype m_columns = 0;
+    QString m_problem;
+    qint64 m_problemLine = 0;
+};
+} // namespace
+
+QString CsvTable::place(qint64 line)
+{
+    return tr("line %1").arg(line);
+}
+
+std::optional<SourceProblem> CsvTable::read(const RowHandler &handle, qint64 mostRows)
+{
+    QFile file(m_path);
+    if (const QFileInfo info(m_path); info.exists() && !info.isFile())
+        return SourceProblem{m_path, {}, tr("This is no regular file.")};
+    if (!file.open(QIODevice::ReadOnly))
+        return SourceProblem{m_path, {}, file.errorString()};
+    CsvDialect dialect;
+    if (const QString problem = dialect.detect(file, m_options); !problem.isEmpty())
+        return SourceProblem{m_path, {}, problem};
+
+    QStringDecoder decoder(dialect.encoding.constData());
+    RowParser parser(dialect.delimiter, handle);
+    QString text;
+    const auto problemAt = [this, &parser](const QString &problem) {
+        return SourceProblem{m_path, place(parser.problemLine()), problem};
+    };
+    const auto isEnough = [&parser, mostRows] { return mostRows >= 0 && parser.rows() >= mostRows; };
+    while (!file.atEnd() && !isEnough()) {
+        if (m_options.progress && !m_options.progress(double(file.pos()) / double(file.size()))) {
+            m_cancelled = true;
+            return std::nullopt;
+        }
+        const QByteArray chunk = file.read(ChunkSize);
+        text += QString(decoder(chunk));
+        if (file.atEnd())
+            text += QString(decoder(dialect.encoding.startsWith("UTF-16") ? QByteArray() : QByteArray("\n")));
+        if (decoder.hasError()) {
+            const auto before =
+                QStringView(text).left(text.indexOf(QChar::ReplacementCharacter)).count(u'\n');
+            return SourceProblem{
+                m_path, place(parser.line() + before + 1),
+                tr("The text is not valid in the encoding %1.").arg(QString::fromLatin1(dialect.encoding))};
+        }
+        qsizetype start = 0;
+        for (qsizetype end = 0; !isEnough() && (end = text.indexOf(u'\n', start)) >= 0; start = end + 1) {
+            const QString problem = parser.feed(QStringView(text).mid(start, end + 1 - start));
+            if (!problem.isEmpty())
+                return problemAt(problem);
+        }
+        text.remove(0, start);
+    }
+    if (isEnough())
+        return std::nullopt;
+    if (const QString problem = text.isEmpty() ? QString() : parser.feed(text); !problem.isEmpty())
+        return problemAt(problem);
+    if (const QString problem = parser.finish(); !problem.isEmpty())
+        return problemAt(problem);
+    return std::nullopt;
+}
