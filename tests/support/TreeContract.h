@@ -26,9 +26,9 @@ template <typename Node>
         return {parentNode, target->getLevel()};
     if (!node || node->getChildren()->isEmpty())
         return {};
-    const QList<Node *> children = *node->getChildren();
-    for (Node *child : children.first(children.size() - 1)) {
-        if (const auto found = searchParent(target, child, node); found.isValid())
+    const QList<Node *> &children = *node->getChildren();
+    for (qsizetype i = 0; i < children.size() - 1; ++i) {
+        if (const auto found = searchParent(target, children.at(i), node); found.isValid())
             return found;
     }
     return searchParent(target, children.last(), node);
