@@ -105,7 +105,7 @@ private:
         if (target == node)
             return createIndex(target->getLevel(), 0, parentNode);
         QModelIndex answer;
-        walkPlaces(node, [this, target, &answer, &visited](Node *child, Node *parent, int) {
+        walkPlaces(node, [this, target, &answer, &visited](Node *child, Node *parent, int, int) {
             ++visited;
             if (child != target) {
                 answer = {};

@@ -7,8 +7,9 @@
 /// What a walk does after it has shown a node.
 enum class Walk { Into, Over, Stop };
 
-/// Calls \a visit(child, parent, row) with every node below \a root: a node before its children, children in
-/// list order. Nulls are shown too. The walk keeps its own path, so depth is not bounded by the stack.
+/// Calls \a visit(child, parent, row, depth) with every node below \a root: a node before its children,
+/// children in list order; those of \a root have depth 1. Nulls are shown too. The walk keeps its own path,
+/// so depth is not bounded by the stack.
 template <typename Node, typename Visit>
 void walkPlaces(Node *root, Visit visit)
 {
@@ -28,7 +29,7 @@ void walkPlaces(Node *root, Visit visit)
         }
         ++path.last().next;
         Node *child = children->at(step.next);
-        const Walk walk = visit(child, step.parent, step.next);
+        const Walk walk = visit(child, step.parent, step.next, int(path.size()));
         if (walk == Walk::Stop)
             return;
         if (walk == Walk::Into && child)
@@ -49,14 +50,12 @@ public:
     /// does not lead to it. Takes time in proportion to the depth of the node.
     [[nodiscard]] Node *parentOf(const Node *node, Node *root) const
     {
-        QVarLengthArray<int, 32> rows; // from the node upwards
-        for (const void *address = node; address != root;) {
-            const auto place = m_places.constFind(address);
-            if (place == m_places.cend())
-                return nullptr;
-            rows.append(place->row);
-            address = place->parent;
-        }
+        const auto place = m_places.constFind(node);
+        if (place == m_places.cend())
+            return nullptr;
+        QVarLengthArray<int, 32> rows{place->row}; // from the node upwards
+        for (int branch = place->branch; branch != 0; branch = m_branches.at(branch).branch)
+            rows.append(m_branches.at(branch).row);
         Node *parent = nullptr;
         Node *reached = root;
         for (auto row = rows.crbegin(); row != rows.crend() && reached; ++row) {
@@ -74,11 +73,19 @@ public:
     void fill(Node *root)
     {
         m_places.clear();
+        m_branches = {{0, 0}};
         m_searched = 0;
-        walkPlaces(root, [this, root](Node *node, Node *parent, int row) {
-            if (node == root || m_places.contains(node))
+        QList<int> way{0}; // the branches that lead to the node shown, by depth
+        walkPlaces(root, [this, root, &way](Node *node, Node *, int row, int depth) {
+            if (!node || node == root || m_places.contains(node))
                 return Walk::Over;
-            m_places.insert(node, {parent, row});
+            const Place place{way.at(depth - 1), row};
+            m_places.insert(node, place);
+            if (!node->getChildren()->isEmpty()) {
+                way.resize(depth);
+                way.append(int(m_branches.size()));
+                m_branches.append(place);
+            }
             return Walk::Into;
         });
     }
@@ -90,13 +97,15 @@ public:
     [[nodiscard]] bool worthFilling() const { return m_searched >= FillCost * m_places.size(); }
 
 private:
+    /// Small, since answers about a large tree take as long as this is fetched from memory.
     struct Place {
-        const void *parent;
+        int branch; // of the parent, in m_branches
         int row;
     };
 
     static constexpr qsizetype FillCost = 20; // Visiting a node in fill() takes as long as in 20 searches.
 
-    QHash<const void *, Place> m_places;
+    QHash<const void *, Place> m_places; // of all nodes but the root
+    QList<Place> m_branches; // of those with children, after the root
     qsizetype m_searched = 0;
 };

@@ -65,7 +65,7 @@ std::unique_ptr<Node> makeNodes(int depth, int width)
 QList<Node *> allNodes(Node *root)
 {
     QList<Node *> nodes{root};
-    walkPlaces(root, [&nodes](Node *node, Node *, int) {
+    walkPlaces(root, [&nodes](Node *node, Node *, int, int) {
         if (node)
             nodes += node;
         return Walk::Into;
