@@ -13,10 +13,10 @@ namespace
 {
 QString rangeText(const QString &type, const QVariant &min, const QVariant &max)
 {
-    return toText({{u"name"_s, u"V"_s},
-                   {u"fieldType"_s, type},
-                   {u"fieldRangeMin"_s, min.toJsonValue()},
-                   {u"fieldRangeMax"_s, max.toJsonValue()}});
+    return objectText({{u"name"_s, u"V"_s},
+                       {u"fieldType"_s, type},
+                       {u"fieldRangeMin"_s, min.toJsonValue()},
+                       {u"fieldRangeMax"_s, max.toJsonValue()}});
 }
 } // namespace
 
@@ -100,7 +100,7 @@ private Q_SLOTS:
             m_person->addVariables(makeVariable(u"V"_s));
             variables().last()->setTag(tag);
         }
-        const QString text = toText({{u"name"_s, u"A"_s}, {u"tag"_s, 500}}); // Its own tag is not used.
+        const QString text = objectText({{u"name"_s, u"A"_s}, {u"tag"_s, 500}}); // Its own tag is not used.
         QTEST(read(text, position)->getTag(), "tag");
     }
 
@@ -176,12 +176,12 @@ private Q_SLOTS:
 
     void sizesAndDecimalsAreTheFields()
     {
-        const auto variable = read(toText({{u"fieldDecimals"_s, 2},
-                                           {u"fieldSize"_s, 12},
-                                           {u"fieldRelativePosition"_s, 44},
-                                           {u"fieldMissing"_s, u"97"_s},
-                                           {u"fieldNotApp"_s, u"98"_s},
-                                           {u"fieldType"_s, u"STRING"_s}}));
+        const auto variable = read(objectText({{u"fieldDecimals"_s, 2},
+                                               {u"fieldSize"_s, 12},
+                                               {u"fieldRelativePosition"_s, 44},
+                                               {u"fieldMissing"_s, u"97"_s},
+                                               {u"fieldNotApp"_s, u"98"_s},
+                                               {u"fieldType"_s, u"STRING"_s}}));
         QCOMPARE(variable->getDecimals(), 2);
         QCOMPARE(variable->getFieldSize(), 12);
         QCOMPARE(variable->getSize(), 12);
@@ -211,7 +211,7 @@ private Q_SLOTS:
     void onlyTheExactWordMakesALookup()
     {
         for (const QString &type : {u"lookup"_s, u"LOOKUP "_s, QString()})
-            QVERIFY(!read(toText({{u"type"_s, type}}))->getMetadataVariables()->getLookup());
+            QVERIFY(!read(objectText({{u"type"_s, type}}))->getMetadataVariables()->getLookup());
         QVERIFY(!read(fieldText(u"A"_s, {}, u"LOOKUP"_s))->getMetadataVariables()->getLookup());
     }
 
@@ -275,7 +275,7 @@ private Q_SLOTS:
         QCOMPARE(lines(*elements), loaded);
         qDeleteAll(*elements);
 
-        const auto variable = read(toText({{u"categories"_s, QJsonValue::fromVariant(categories)}}));
+        const auto variable = read(objectText({{u"categories"_s, QJsonValue::fromVariant(categories)}}));
         QCOMPARE(lines(*variable->getValueLabelElementList()), loaded);
     }
 };

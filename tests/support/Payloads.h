@@ -49,7 +49,7 @@ inline QString payloadType()
     return texts;
 }
 
-[[nodiscard]] inline QString toText(const QJsonObject &object)
+[[nodiscard]] inline QString objectText(const QJsonObject &object)
 {
     return QString::fromUtf8(QJsonDocument(object).toJson());
 }
@@ -58,17 +58,17 @@ inline QString payloadType()
 [[nodiscard]] inline QString fieldText(const QString &name, const QString &label = {},
                                        const QString &type = QStringLiteral("STRING"))
 {
-    return toText({{QStringLiteral("name"), name},
-                   {QStringLiteral("label"), label},
-                   {QStringLiteral("fieldType"), type}});
+    return objectText({{QStringLiteral("name"), name},
+                       {QStringLiteral("label"), label},
+                       {QStringLiteral("fieldType"), type}});
 }
 
 [[nodiscard]] inline QString lookupText(const QString &id, const QString &label = {})
 {
-    return toText({{QStringLiteral("name"), id},
-                   {QStringLiteral("label"), label},
-                   {QStringLiteral("tag"), QStringLiteral("*")},
-                   {QStringLiteral("type"), QStringLiteral("LOOKUP")}});
+    return objectText({{QStringLiteral("name"), id},
+                       {QStringLiteral("label"), label},
+                       {QStringLiteral("tag"), QStringLiteral("*")},
+                       {QStringLiteral("type"), QStringLiteral("LOOKUP")}});
 }
 
 /// A field of type \a type that takes values from \a min to \a max.
