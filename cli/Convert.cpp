@@ -1,0 +1,82 @@
+#include "cli/Convert.h"
+
+#include "cli/Failure.h"
+#include "cli/Output.h"
+#include "cli/RoundTrip.h"
+#include "cli/Text.h"
+
+#include <CLI/CLI.hpp>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <filesystem>
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+/// Refuses what a saved file would take the place of: the document itself, by whatever name, and anything
+/// that is no regular file.
+void checkTarget(const QString &in, const QString &out)
+{
+    const QFileInfo target(out);
+    if (target.isDir())
+        throw Cli::Failure(u"%1: is a directory, not a file"_s.arg(out));
+    std::error_code error;
+    if (std::filesystem::equivalent(QFileInfo(in).filesystemFilePath(), target.filesystemFilePath(), error))
+        throw Cli::Failure(u"%1 and %2 are the same file"_s.arg(in, out));
+    if (target.exists() && !target.isFile())
+        throw Cli::Failure(u"%1: is not a regular file"_s.arg(out));
+}
+
+void save(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw Cli::Failure(u"%1: cannot be written: %2"_s.arg(path, file.errorString()));
+}
+} // namespace
+
+namespace Cli
+{
+void addConvert(CLI::App &app, Output &output, int &status)
+{
+    struct Options {
+        std::string in;
+        std::string out;
+        bool lossy = false;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App *verb =
+        app.add_subcommand("convert", "Read a dictionary and write it again, telling what that loses");
+    verb->add_option("IN", options->in, "The dictionary document to read")->required();
+    verb->add_option("OUT", options->out, "The file to write")->required();
+    verb->add_flag("--lossy", options->lossy, "Write the file even if something is lost");
+    verb->callback([options, &output, &status] {
+        const bool written = convert(QString::fromStdString(options->in),
+                                     QString::fromStdString(options->out), options->lossy, output);
+        status = written ? 0 : 1;
+    });
+}
+
+bool convert(const QString &in, const QString &out, bool lossy, Output &output)
+{
+    const DictionaryDocument document = readDocument(in);
+    checkTarget(in, out);
+    const auto [written, losses] = roundTrip(document);
+    for (const Difference &loss : losses)
+        output.line(Text::printable(loss.toString()));
+
+    const bool write = losses.isEmpty() || lossy;
+    if (write)
+        save(out, written);
+    const QString lost = losses.isEmpty()
+        ? u"nothing lost"_s
+        : Text::counted(losses.size(), u"value"_s, u"values"_s) + u" lost"_s;
+    output.line(
+        Text::printable(write ? u"%1: written, %2"_s.arg(out, lost)
+                              : u"%1: not written, %2 (--lossy writes it all the same)"_s.arg(out, lost)));
+    return write;
+}
+} // namespace Cli

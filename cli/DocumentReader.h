@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class TDcEntity;
+
+namespace Cli
+{
+using Entities = std::vector<std::unique_ptr<TDcEntity>>;
+
+/// A dictionary document as it stands in a file.
+struct DictionaryDocument {
+    QJsonObject content;
+    /// The key that holds the entities, "entities" or "root"; empty when the document is an entity itself.
+    QString rootKey;
+};
+
+/// Reads the dictionary document in the file at \a path. Throws Failure when it cannot be read, is not JSON
+/// (the message tells line and column) or is no dictionary.
+[[nodiscard]] DictionaryDocument readDocument(const QString &path);
+
+/// The document's entities, read through the layer.
+[[nodiscard]] Entities readEntities(const DictionaryDocument &document);
+
+/// The document that holds \a entities where \a original holds its own, written through the layer.
+[[nodiscard]] QJsonObject writeEntities(const Entities &entities, const DictionaryDocument &original);
+
+/// A place in a text file; both count from 1. A column is a character, however many bytes it takes.
+struct TextPosition {
+    int line;
+    int column;
+};
+
+/// Where the byte at \a offset stands in \a text, which is UTF-8 with or without a byte order mark.
+[[nodiscard]] TextPosition textPosition(const QByteArray &text, qsizetype offset);
+} // namespace Cli
