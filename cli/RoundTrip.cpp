@@ -46,8 +46,8 @@ QString path(const Step *from, const Step *to)
     return segments.join(u'/');
 }
 
-/// The same object under another key, or a list with it alone: the other key under which \a after may hold
-/// what \a before holds under \a key.
+/// The key under which \a after holds what \a before holds under \a key: two keys are read under one spelling
+/// and written under another.
 QString keyAfter(const QString &key, const QJsonObject &before, const QJsonObject &after)
 {
     constexpr std::pair<QLatin1StringView, QLatin1StringView> spellings[] = {
