@@ -1,0 +1,299 @@
+#include "workbench/Actions.h"
+
+#include "common/IconPaths.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+/// A shortcut: the platform's own for what every program has, or the given one.
+struct Keys {
+    Keys() = default;
+    Keys(QKeySequence::StandardKey key) : sequences(QKeySequence::keyBindings(key)) { }
+    Keys(const char *text) : sequences{QKeySequence(QLatin1StringView(text))} { }
+    QList<QKeySequence> sequences;
+};
+
+enum Place { MenuOnly, ToolBar, GroupStart, ToolBarGroup };
+
+struct Row {
+    ActionId id;
+    MenuId menu;
+    Place place; ///< GroupStart and ToolBarGroup: a separator stands before it.
+    const char *icon; ///< Name of the image; null for none.
+    Keys keys;
+    const char *text;
+    const char *tip;
+};
+
+#define TEXT(text) QT_TRANSLATE_NOOP("Actions", text)
+
+/// One line an action. Menus and tool bar show them in this order.
+QList<Row> table()
+{
+    using enum ActionId;
+    return {
+        {FileNew, MenuId::File, ToolBar, "48px-File-new", QKeySequence::New, TEXT("&New"),
+         TEXT("Start an empty dictionary")},
+        {FileOpen, MenuId::File, ToolBar, "48px-Document-open", QKeySequence::Open, TEXT("&Open…"),
+         TEXT("Open a dictionary file")},
+        {FileSave, MenuId::File, ToolBar, "48px-Project-save", QKeySequence::Save, TEXT("&Save"),
+         TEXT("Save the dictionary")},
+        {FileSaveAs, MenuId::File, MenuOnly, "48px-Project-save_as", "Ctrl+Shift+S", TEXT("Save &As…"),
+         TEXT("Save the dictionary under another name")},
+        {FileRevert,
+         MenuId::File,
+         MenuOnly,
+         "48px-Revert",
+         {},
+         TEXT("Re&vert"),
+         TEXT("Go back to the dictionary as it was saved")},
+        {FileQuit, MenuId::File, GroupStart, nullptr, "Ctrl+Q", TEXT("&Quit"), TEXT("Leave the workbench")},
+
+        {EditUndo, MenuId::Edit, ToolBarGroup, "48px-Undo", QKeySequence::Undo, TEXT("&Undo"), TEXT("Undo")},
+        {EditRedo, MenuId::Edit, ToolBar, "48px-Redo", QKeySequence::Redo, TEXT("&Redo"), TEXT("Redo")},
+        {EditFilter, MenuId::Edit, GroupStart, "48px-Filter", "Ctrl+L", TEXT("&Filter Variables"),
+         TEXT("Type into the filter of the variable table")},
+
+        {EntityAdd, MenuId::Entity, ToolBarGroup, "48px-Entity-Name", "Ctrl+Shift+N", TEXT("&Add Entity"),
+         TEXT("Add an entity below the current one")},
+        {EntityDuplicate,
+         MenuId::Entity,
+         MenuOnly,
+         "48px-Duplicate",
+         {},
+         TEXT("&Duplicate Entity"),
+         TEXT("Add a copy of the entity with everything below it")},
+        {EntityRename,
+         MenuId::Entity,
+         MenuOnly,
+         nullptr,
+         {},
+         TEXT("Re&name Entity"),
+         TEXT("Edit the entity's name")},
+        {EntityRemove,
+         MenuId::Entity,
+         MenuOnly,
+         "48px-Delete",
+         {},
+         TEXT("&Remove Entity"),
+         TEXT("Remove the entity with everything below it")},
+        {EntityMoveUp,
+         MenuId::Entity,
+         GroupStart,
+         "48px-Move-up",
+         {},
+         TEXT("Move Entity &Up"),
+         TEXT("Move the entity before the one above it")},
+        {EntityMoveDown,
+         MenuId::Entity,
+         MenuOnly,
+         "48px-Move-down",
+         {},
+         TEXT("Move Entity Do&wn"),
+         TEXT("Move the entity after the one below it")},
+
+        {VariableAdd, MenuId::Variable, ToolBar, "new", "Ctrl+I", TEXT("&Add Variable"),
+         TEXT("Add a variable to the entity")},
+        {VariableDuplicate, MenuId::Variable, ToolBar, "48px-Duplicate", "Ctrl+D",
+         TEXT("&Duplicate Variables"), TEXT("Add copies of the selected variables")},
+        {VariableRemove,
+         MenuId::Variable,
+         ToolBar,
+         "48px-Delete",
+         {},
+         TEXT("&Remove Variables"),
+         TEXT("Remove the selected variables")},
+        {VariableMoveUp, MenuId::Variable, GroupStart, "48px-Move-up", "Alt+Up", TEXT("Move Variables &Up"),
+         TEXT("Move the selected variables up in the entity's order")},
+        {VariableMoveDown, MenuId::Variable, MenuOnly, "48px-Move-down", "Alt+Down",
+         TEXT("Move Variables Do&wn"), TEXT("Move the selected variables down in the entity's order")},
+        {VariableRefCode,
+         MenuId::Variable,
+         GroupStart,
+         "48px-Entity-code",
+         {},
+         TEXT("Use as Reference &Code"),
+         TEXT("Make the variable the entity's reference code, or stop it")},
+        {VariableRefLabel,
+         MenuId::Variable,
+         MenuOnly,
+         "48px-Entity-label",
+         {},
+         TEXT("Use as Reference &Label"),
+         TEXT("Make the variable the entity's reference label, or stop it")},
+        {VariableWeight,
+         MenuId::Variable,
+         MenuOnly,
+         "48px-Entity-weight",
+         {},
+         TEXT("Use as &Weight"),
+         TEXT("Make the variable the entity's weight, or stop it")},
+        {VariableDuplicates,
+         MenuId::Variable,
+         GroupStart,
+         "48px-Checklist",
+         {},
+         TEXT("Report Duplicated &Names"),
+         TEXT("List the variables of the entity that share a name")},
+
+        {LabelAdd,
+         MenuId::Values,
+         MenuOnly,
+         "48px-Add",
+         {},
+         TEXT("Add Value &Label"),
+         TEXT("Add a value label to the variable")},
+        {LabelRemove,
+         MenuId::Values,
+         MenuOnly,
+         "48px-Remove",
+         {},
+         TEXT("Remove Value Labels"),
+         TEXT("Remove the selected value labels")},
+        {LabelMoveUp,
+         MenuId::Values,
+         MenuOnly,
+         "48px-Move-up",
+         {},
+         TEXT("Move Value Labels Up"),
+         TEXT("Move the selected value labels up")},
+        {LabelMoveDown,
+         MenuId::Values,
+         MenuOnly,
+         "48px-Move-down",
+         {},
+         TEXT("Move Value Labels Down"),
+         TEXT("Move the selected value labels down")},
+        {RangeAdd,
+         MenuId::Values,
+         GroupStart,
+         "48px-Add",
+         {},
+         TEXT("Add &Range"),
+         TEXT("Add a range of valid values to the variable")},
+        {RangeRemove,
+         MenuId::Values,
+         MenuOnly,
+         "48px-Remove",
+         {},
+         TEXT("Remove Ranges"),
+         TEXT("Remove the selected ranges")},
+        {RangeMoveUp,
+         MenuId::Values,
+         MenuOnly,
+         "48px-Move-up",
+         {},
+         TEXT("Move Ranges Up"),
+         TEXT("Move the selected ranges up")},
+        {RangeMoveDown,
+         MenuId::Values,
+         MenuOnly,
+         "48px-Move-down",
+         {},
+         TEXT("Move Ranges Down"),
+         TEXT("Move the selected ranges down")},
+
+        {SourceAppend, MenuId::Sources, MenuOnly, "48px-Database-convert", "Ctrl+Return",
+         TEXT("Add Selected Fields to &Entity"),
+         TEXT("Make a variable of each selected field, as dragging them onto the table does")},
+
+        {HelpAbout,
+         MenuId::Help,
+         MenuOnly,
+         "48px-About",
+         {},
+         TEXT("&About Quillon Workbench"),
+         TEXT("Show version and licences")},
+    };
+}
+
+const char *menuTitle(MenuId id)
+{
+    switch (id) {
+    case MenuId::File:
+        return TEXT("&File");
+    case MenuId::Edit:
+        return TEXT("&Edit");
+    case MenuId::Entity:
+        return TEXT("E&ntity");
+    case MenuId::Variable:
+        return TEXT("&Variable");
+    case MenuId::Values:
+        return TEXT("Va&lues");
+    case MenuId::Sources:
+        return TEXT("&Sources");
+    case MenuId::Tools:
+        return TEXT("&Tools");
+    case MenuId::View:
+        return TEXT("Vie&w");
+    case MenuId::Help:
+        return TEXT("&Help");
+    }
+    Q_UNREACHABLE();
+}
+
+constexpr MenuId menuOrder[] = {MenuId::File,     MenuId::Edit,   MenuId::Entity,
+                                MenuId::Variable, MenuId::Values, MenuId::Sources,
+                                MenuId::Tools,    MenuId::View,   MenuId::Help};
+} // namespace
+
+Actions::Actions(QObject *parent) : QObject(parent)
+{
+    const QList<Row> rows = table();
+    for (const Row &row : rows) {
+        auto *action = new QAction(tr(row.text), this);
+        if (row.icon)
+            action->setIcon(QIcon(u":/icons/res/icons/%1.png"_s.arg(QLatin1StringView(row.icon))));
+        action->setShortcuts(row.keys.sequences);
+        action->setToolTip(tr(row.tip));
+        action->setStatusTip(tr(row.tip));
+        m_actions.insert(row.id, action);
+    }
+}
+
+QString Actions::text(ActionId id) const
+{
+    return m_actions.value(id)->text().remove(u'&');
+}
+
+QList<QAction *> Actions::all() const
+{
+    QList<QAction *> actions;
+    const QList<Row> rows = table();
+    std::transform(rows.cbegin(), rows.cend(), std::back_inserter(actions),
+                   [this](const Row &row) { return m_actions.value(row.id); });
+    return actions;
+}
+
+void Actions::place(QMainWindow *window)
+{
+    auto *toolBar = window->addToolBar(tr("Main Tool Bar"));
+    toolBar->setObjectName(u"mainToolBar"_s);
+    toolBar->setIconSize(QSize(20, 20));
+    for (MenuId id : menuOrder)
+        m_menus.insert(id, window->menuBar()->addMenu(tr(menuTitle(id))));
+    const QList<Row> rows = table();
+    for (const Row &row : rows) {
+        QMenu *menu = m_menus.value(row.menu);
+        if (row.place == GroupStart || row.place == ToolBarGroup)
+            menu->addSeparator();
+        menu->addAction(m_actions.value(row.id));
+        if (row.place == ToolBarGroup)
+            toolBar->addSeparator();
+        if (row.place == ToolBar || row.place == ToolBarGroup)
+            toolBar->addAction(m_actions.value(row.id));
+    }
+    for (QMenu *menu : std::as_const(m_menus)) {
+        menu->setToolTipsVisible(true);
+        menu->menuAction()->setVisible(!menu->isEmpty());
+    }
+}

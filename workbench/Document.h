@@ -1,0 +1,76 @@
+#pragma once
+
+#include "workbench/undo/History.h"
+
+#include <QObject>
+#include <QString>
+#include <QUndoStack>
+
+#include <functional>
+#include <memory>
+
+class TDcEntity;
+
+/// The open dictionary: its objects, its file and its history.
+///
+/// Objects are edited in place, through the layer's models or directly. Then commit() finds out what changed
+/// and makes one step of it that can be undone. What adds, removes or moves objects goes through edit(),
+/// which tells everybody to let go of the objects first.
+class Document : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Document(QObject *parent = nullptr);
+    ~Document() override;
+    Q_DISABLE_COPY_MOVE(Document)
+
+    /// The root entity. Never null; another one after each opening.
+    [[nodiscard]] TDcEntity *root() const { return m_root.get(); }
+    /// The absolute path; empty for a dictionary that was never saved.
+    [[nodiscard]] QString path() const { return m_path; }
+    /// The file's name, or a word for a new dictionary.
+    [[nodiscard]] QString title() const;
+    /// Whether there are changes that are not saved.
+    [[nodiscard]] bool isModified() const { return !m_undoStack.isClean(); }
+    [[nodiscard]] QUndoStack *undoStack() { return &m_undoStack; }
+
+    /// Starts an empty dictionary.
+    void clear();
+    /// Replaces the dictionary by the one in the file at \a path. If that fails, nothing changes, and
+    /// errorString() says why.
+    [[nodiscard]] bool open(const QString &path);
+    /// Saves to \a path, which the dictionary then belongs to. The history stays.
+    [[nodiscard]] bool save(const QString &path);
+    /// Why the last open() or save() failed, in words for the person.
+    [[nodiscard]] QString errorString() const { return m_errorString; }
+
+    /// Makes one step of all that was changed since the last one, if anything was. \a text completes "Undo"
+    /// in the menu; when it is empty, the step is described by what changed. If only properties, variables,
+    /// ranges or value labels of one entity changed, \a entity spares the search through the others.
+    void commit(const QString &text = {}, TDcEntity *entity = nullptr);
+    /// Runs \a change, which may add, remove and move objects, and makes one step of it.
+    void edit(const QString &text, const std::function<void()> &change);
+
+Q_SIGNALS:
+    /// Objects will come, go or move. Let go of all of them now.
+    void structureAboutToChange();
+    void structureChanged();
+    /// Properties of objects changed in place; the objects are the same as before.
+    void contentChanged();
+    void modifiedChanged(bool modified);
+    void pathChanged(const QString &path);
+
+private:
+    [[nodiscard]] std::unique_ptr<TDcEntity> newRoot() const;
+    void replaceRoot(std::unique_ptr<TDcEntity> root);
+    void start(std::unique_ptr<TDcEntity> root, const QString &path);
+    void setPath(const QString &path);
+
+    std::unique_ptr<TDcEntity> m_root;
+    QString m_path;
+    bool m_changing = false; // The objects are not in a state to look at.
+    QUndoStack m_undoStack;
+    History m_history;
+    QString m_errorString;
+};

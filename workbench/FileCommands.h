@@ -1,0 +1,37 @@
+#pragma once
+
+#include "workbench/RecentFiles.h"
+#include "workbench/Workspace.h"
+
+#include <QObject>
+
+/// New, Open, Save, Save As and Revert, with the questions that they ask before work is lost.
+class FileCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FileCommands(const Workspace &workspace, QObject *parent = nullptr);
+
+    /// Whether the open dictionary may go: nothing is unsaved, or the person saved it or said so.
+    [[nodiscard]] bool mayClose();
+    /// Opens \a path after mayClose(), and shows what is wrong if it cannot be opened.
+    bool open(const QString &path);
+
+    /// Whether \a path is called as dictionaries are.
+    [[nodiscard]] static bool isDictionary(const QString &path);
+
+private:
+    void create();
+    void chooseAndOpen();
+    bool save();
+    bool saveAs();
+    bool saveTo(const QString &path);
+    void revert();
+    void addRecentMenu();
+    void showError(const QString &text);
+    void updateActions();
+
+    Workspace m_workspace;
+    RecentFiles m_recent;
+};

@@ -1,0 +1,186 @@
+#include "workbench/MainWindow.h"
+
+#include "workbench/FileCommands.h"
+#include "workbench/panels/EntityForm.h"
+#include "workbench/panels/EntityTreePanel.h"
+#include "workbench/panels/Inspector.h"
+#include "workbench/panels/ProblemsPanel.h"
+#include "workbench/panels/SourcesPanel.h"
+#include "workbench/panels/VariableTablePanel.h"
+#include "workbench/Workspace.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTableView>
+#include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+constexpr QSize plainSize(1280, 800);
+}
+
+MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_selection(&m_document)
+{
+    setAcceptDrops(true);
+    setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
+    resize(plainSize);
+
+    m_actions.place(this);
+    m_files = new FileCommands({&m_document, &m_selection, &m_actions, this}, this);
+    addPanels();
+    addUndo();
+    addAbout();
+    connect(m_actions[ActionId::FileQuit], &QAction::triggered, this, &QWidget::close);
+    connect(&m_document, &Document::pathChanged, this, &MainWindow::updateTitle);
+    connect(&m_document, &Document::modifiedChanged, this, &MainWindow::updateTitle);
+    updateTitle();
+    statusBar();
+    restoreLayout();
+}
+
+MainWindow::~MainWindow()
+{
+    // The panels look at document and selection, which are members and so would go first.
+    const QList<QWidget *> panels = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    qDeleteAll(panels);
+}
+
+void MainWindow::addPanels()
+{
+    const Workspace workspace{&m_document, &m_selection, &m_actions, this};
+    auto *table = new VariableTablePanel(workspace, this);
+    setCentralWidget(table);
+    QDockWidget *tree =
+        addDock(tr("Entities"), u"entities"_s, new EntityTreePanel(workspace, this), Qt::LeftDockWidgetArea);
+    QDockWidget *entity =
+        addDock(tr("Entity"), u"entity"_s, new EntityForm(workspace, this), Qt::LeftDockWidgetArea);
+    QDockWidget *inspector =
+        addDock(tr("Variable"), u"variable"_s, new Inspector(workspace, this), Qt::RightDockWidgetArea);
+    auto *sourcesPanel = new SourcesPanel(workspace, this);
+    connect(sourcesPanel, &SourcesPanel::chosen, table, &VariableTablePanel::importFields);
+    QDockWidget *sources = addDock(tr("Sources"), u"sources"_s, sourcesPanel, Qt::BottomDockWidgetArea);
+    QDockWidget *problems =
+        addDock(tr("Problems"), u"problems"_s, new ProblemsPanel(workspace, this), Qt::BottomDockWidgetArea);
+    tabifyDockWidget(sources, problems);
+    sources->raise();
+    resizeDocks({tree, inspector}, {250, 340}, Qt::Horizontal);
+    resizeDocks({tree, entity}, {260, 340}, Qt::Vertical);
+    resizeDocks({sources}, {210}, Qt::Vertical);
+    table->view()->setFocus();
+}
+
+QDockWidget *MainWindow::addDock(const QString &title, const QString &objectName, QWidget *panel,
+                                 Qt::DockWidgetArea area)
+{
+    auto *dock = new QDockWidget(title, this);
+    dock->setObjectName(objectName);
+    dock->setWidget(panel);
+    addDockWidget(area, dock);
+    m_actions.menu(MenuId::View)->addAction(dock->toggleViewAction());
+    m_actions.menu(MenuId::View)->menuAction()->setVisible(true);
+    return dock;
+}
+
+void MainWindow::addUndo()
+{
+    QUndoStack *stack = m_document.undoStack();
+    // What is typed but not entered yet is entered first, and so is undone before anything else.
+    const auto finishEditing = [this] {
+        if (QWidget *focus = QApplication::focusWidget(); focus && isAncestorOf(focus)) {
+            focus->clearFocus();
+            focus->setFocus();
+        }
+    };
+    QAction *undo = m_actions[ActionId::EditUndo];
+    QAction *redo = m_actions[ActionId::EditRedo];
+    connect(undo, &QAction::triggered, this, [finishEditing, stack] {
+        finishEditing();
+        stack->undo();
+    });
+    connect(redo, &QAction::triggered, stack, &QUndoStack::redo);
+    connect(stack, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
+    connect(stack, &QUndoStack::canRedoChanged, redo, &QAction::setEnabled);
+    const auto name = [undo, redo, stack] {
+        undo->setText(stack->canUndo() ? tr("&Undo %1").arg(stack->undoText()) : tr("&Undo"));
+        redo->setText(stack->canRedo() ? tr("&Redo %1").arg(stack->redoText()) : tr("&Redo"));
+        undo->setIconText(tr("Undo"));
+        redo->setIconText(tr("Redo"));
+    };
+    connect(stack, &QUndoStack::indexChanged, this, name);
+    undo->setEnabled(false);
+    redo->setEnabled(false);
+    name();
+}
+
+void MainWindow::addAbout()
+{
+    connect(m_actions[ActionId::HelpAbout], &QAction::triggered, this, [this] {
+        QMessageBox::about(this, tr("About Quillon Workbench"),
+                           tr("<h3>Quillon Workbench %1</h3><p>An editor for data dictionaries.</p>"
+                              "<p>Icons: Bootstrap Icons, MIT licence.</p>")
+                               .arg(QApplication::applicationVersion()));
+    });
+}
+
+void MainWindow::updateTitle()
+{
+    setWindowTitle(tr("%1[*] – Quillon Workbench").arg(m_document.title()));
+    setWindowFilePath(m_document.path());
+    setWindowModified(m_document.isModified());
+}
+
+void MainWindow::restoreLayout()
+{
+    const QSettings settings;
+    m_plainState = saveState();
+    restoreGeometry(settings.value(u"window/geometry"_s).toByteArray());
+    restoreState(settings.value(u"window/state"_s).toByteArray());
+}
+
+void MainWindow::setPlainLayout()
+{
+    restoreState(m_plainState);
+    resize(plainSize);
+}
+
+void MainWindow::saveLayout() const
+{
+    QSettings settings;
+    settings.setValue(u"window/geometry"_s, saveGeometry());
+    settings.setValue(u"window/state"_s, saveState());
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_files->mayClose()) {
+        event->ignore();
+        return;
+    }
+    saveLayout();
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.first().isLocalFile())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    m_files->open(event->mimeData()->urls().constFirst().toLocalFile());
+}

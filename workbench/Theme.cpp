@@ -1,0 +1,66 @@
+#include "workbench/Theme.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+struct Colours {
+    QRgb window, base, alternate, text, faint, button, border, highlight, link;
+};
+
+constexpr Colours light{.window = 0xf3f4f6,
+                        .base = 0xffffff,
+                        .alternate = 0xf7f8fa,
+                        .text = 0x1f2328,
+                        .faint = 0x747b84,
+                        .button = 0xf8f9fa,
+                        .border = 0xc9ced6,
+                        .highlight = 0x2b6cb8,
+                        .link = 0x1f62b0};
+constexpr Colours dark{.window = 0x26282c,
+                       .base = 0x1d1f22,
+                       .alternate = 0x222428,
+                       .text = 0xe4e6ea,
+                       .faint = 0x8f969f,
+                       .button = 0x32353a,
+                       .border = 0x3f434a,
+                       .highlight = 0x2f6fb7,
+                       .link = 0x6fb0f5};
+
+QPalette paletteOf(const Colours &colours)
+{
+    QPalette palette(QColor(colours.button), QColor(colours.window));
+    palette.setColor(QPalette::WindowText, colours.text);
+    palette.setColor(QPalette::Base, colours.base);
+    palette.setColor(QPalette::AlternateBase, colours.alternate);
+    palette.setColor(QPalette::Text, colours.text);
+    palette.setColor(QPalette::PlaceholderText, colours.faint);
+    palette.setColor(QPalette::ButtonText, colours.text);
+    palette.setColor(QPalette::ToolTipBase, colours.base);
+    palette.setColor(QPalette::ToolTipText, colours.text);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::Highlight, colours.highlight);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, colours.link);
+    palette.setColor(QPalette::Mid, colours.border);
+    for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
+        palette.setColor(QPalette::Disabled, role, colours.faint);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, colours.border);
+    return palette;
+}
+} // namespace
+
+bool Theme::apply(const QString &name)
+{
+    if (name == "system"_L1)
+        return true;
+    if (name != "light"_L1 && name != "dark"_L1)
+        return false;
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setPalette(paletteOf(name == "dark"_L1 ? dark : light));
+    return true;
+}

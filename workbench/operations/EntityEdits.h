@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+class TDcEntity;
+
+/// Changes of the entity tree. They keep levels right and names free.
+namespace EntityEdits
+{
+/// Adds an entity called \a name at the end of the children of \a parent.
+TDcEntity *add(TDcEntity *parent, const QString &name);
+/// Adds a copy of \a entity, which is not \a root, right after it; every entity of the copy gets a free name.
+TDcEntity *duplicate(TDcEntity *root, TDcEntity *entity);
+/// Sets whether \a entity is selectable. Clearing the mark asks what is to become of selectable entities
+/// below.
+void setSelectable(TDcEntity *entity, bool selectable);
+} // namespace EntityEdits

@@ -1,0 +1,57 @@
+#include "workbench/operations/Places.h"
+
+#include "model/PreOrder.h"
+#include "model/TDcEntity.h"
+#include "model/TDcVariable.h"
+
+#include <algorithm>
+
+namespace
+{
+/// The first entity in pre-order for which \a matches holds.
+template <typename Matches>
+TDcEntity *firstEntity(TDcEntity *root, Matches matches)
+{
+    TDcEntity *found = nullptr;
+    preOrder(root, [&found, &matches](TDcEntity *entity) {
+        if (!found && matches(entity))
+            found = entity;
+    });
+    return found;
+}
+} // namespace
+
+bool Places::holds(TDcEntity *root, const TDcEntity *entity)
+{
+    return firstEntity(root, [entity](const TDcEntity *candidate) { return candidate == entity; });
+}
+
+TDcEntity *Places::parentOf(TDcEntity *root, const TDcEntity *entity)
+{
+    return firstEntity(root, [entity](const TDcEntity *candidate) {
+        return std::any_of(candidate->getChildren()->cbegin(), candidate->getChildren()->cend(),
+                           [entity](const TDcEntity *child) { return child == entity; });
+    });
+}
+
+TDcEntity *Places::entityOf(TDcEntity *root, const TDcVariable *variable)
+{
+    return firstEntity(root, [variable](const TDcEntity *candidate) {
+        return std::any_of(candidate->getVariables()->cbegin(), candidate->getVariables()->cend(),
+                           [variable](const TDcVariable *member) { return member == variable; });
+    });
+}
+
+TDcEntity *Places::findEntity(TDcEntity *root, const QString &name)
+{
+    return firstEntity(root, [&name](const TDcEntity *entity) { return entity->getName() == name; });
+}
+
+TDcVariable *Places::findVariable(const TDcEntity *entity, const QString &name)
+{
+    const QList<TDcVariable *> &variables = *entity->getVariables();
+    const auto found =
+        std::find_if(variables.cbegin(), variables.cend(),
+                     [&name](const TDcVariable *variable) { return variable->getName() == name; });
+    return found == variables.cend() ? nullptr : *found;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+class TDcEntity;
+class TDcVariable;
+
+/// Where things stand in a dictionary.
+namespace Places
+{
+/// Whether \a entity is \a root or below it. The address is only compared, so it may be stale.
+[[nodiscard]] bool holds(TDcEntity *root, const TDcEntity *entity);
+/// The entity that \a entity is a child of; null for \a root and for what is not below it.
+[[nodiscard]] TDcEntity *parentOf(TDcEntity *root, const TDcEntity *entity);
+/// The entity whose variable \a variable is; null when there is none.
+[[nodiscard]] TDcEntity *entityOf(TDcEntity *root, const TDcVariable *variable);
+
+/// The first entity called \a name, in pre-order; null when there is none.
+[[nodiscard]] TDcEntity *findEntity(TDcEntity *root, const QString &name);
+/// The first variable of \a entity called \a name; null when there is none.
+[[nodiscard]] TDcVariable *findVariable(const TDcEntity *entity, const QString &name);
+} // namespace Places

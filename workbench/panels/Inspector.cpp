@@ -1,0 +1,16 @@
+#include "workbench/panels/Inspector.h"
+
+#include "workbench/panels/RangesPanel.h"
+#include "workbench/panels/ValueLabelsPanel.h"
+#include "workbench/panels/VariableForm.h"
+
+Inspector::Inspector(const Workspace &workspace, QWidget *parent)
+    : QSplitter(Qt::Vertical, parent), m_form(new VariableForm(workspace, this)),
+      m_valueLabels(new ValueLabelsPanel(workspace, this)), m_ranges(new RangesPanel(workspace, this))
+{
+    setChildrenCollapsible(false);
+    addWidget(m_form);
+    addWidget(m_valueLabels);
+    addWidget(m_ranges);
+    setSizes({360, 180, 120});
+}

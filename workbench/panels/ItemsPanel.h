@@ -1,0 +1,67 @@
+#pragma once
+
+#include "workbench/Actions.h"
+#include "workbench/Workspace.h"
+
+#include <QList>
+#include <QWidget>
+
+class QAbstractItemModel;
+class QLabel;
+class QSortFilterProxyModel;
+class QTableView;
+class TDcVariable;
+
+/// A small table of what belongs to the current variable, with buttons to add, remove and move rows.
+///
+/// The layer's models of these tables copy the variable's list once, so a new one is made for each variable
+/// and after each change of the list.
+class ItemsPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The actions of the buttons.
+    struct Buttons {
+        ActionId add, remove, moveUp, moveDown;
+    };
+
+    [[nodiscard]] QTableView *view() const { return m_view; }
+
+protected:
+    ItemsPanel(const Workspace &workspace, const QString &title, QSortFilterProxyModel *proxy,
+               Buttons buttons, QWidget *parent);
+
+    /// To be called at the end of the derived constructor.
+    void start();
+
+    /// The layer's model of the items of \a variable.
+    virtual QAbstractItemModel *createModel(TDcVariable *variable) = 0;
+    [[nodiscard]] virtual QString emptyText() const = 0;
+    [[nodiscard]] virtual QList<void *> items(TDcVariable *variable) const = 0;
+    virtual void add(TDcVariable *variable) = 0;
+    virtual void remove(TDcVariable *variable, const QList<void *> &items) = 0;
+    virtual void move(TDcVariable *variable, const QList<void *> &items, bool up) = 0;
+    [[nodiscard]] virtual bool canMove(TDcVariable *variable, const QList<void *> &items, bool up) const = 0;
+
+    Workspace m_workspace;
+    QTableView *m_view;
+
+private:
+    void showVariable();
+    void updateActions();
+    void addRow();
+    void removeRows();
+    void moveRows(bool up);
+    void refresh();
+    [[nodiscard]] QString stepText(ActionId action) const;
+    [[nodiscard]] QList<void *> selected() const;
+    void select(const QList<void *> &items);
+
+    Buttons m_buttons;
+    QLabel *m_title;
+    QSortFilterProxyModel *m_proxy;
+    QAbstractItemModel *m_model = nullptr; // Owned by the panel.
+    TDcVariable *m_variable = nullptr; // Not owned.
+    bool m_committing = false; // An edit of the table itself is under way.
+};

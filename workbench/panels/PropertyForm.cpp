@@ -1,0 +1,160 @@
+#include "workbench/panels/PropertyForm.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScopedValueRollback>
+#include <QSpinBox>
+
+#include <limits>
+
+PropertyForm::PropertyForm(QWidget *parent) : QWidget(parent), m_layout(new QFormLayout(this))
+{
+    m_layout->setContentsMargins(10, 10, 10, 10);
+    m_layout->setHorizontalSpacing(10);
+    m_layout->setVerticalSpacing(6);
+    m_layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_layout->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+template <typename Value>
+void PropertyForm::write(const Value &value, const Get<Value> &get, const Set<Value> &set)
+{
+    if (m_busy || m_suspended || get() == value)
+        return;
+    {
+        const QScopedValueRollback busy(m_busy, true);
+        set(value);
+    }
+    Q_EMIT edited();
+    if (!m_suspended)
+        refresh();
+}
+
+void PropertyForm::refresh()
+{
+    const QScopedValueRollback busy(m_busy, true);
+    m_suspended = false;
+    for (const auto &refresher : std::as_const(m_refreshers))
+        refresher();
+}
+
+QLineEdit *PropertyForm::text(const QString &name, Get<QString> get, Set<QString> set)
+{
+    auto *field = new QLineEdit(this);
+    field->setAccessibleName(name);
+    connect(field, &QLineEdit::editingFinished, this, [=, this] { write(field->text(), get, set); });
+    m_refreshers.append([=] {
+        if (field->text() != get()) {
+            field->setText(get());
+            field->setCursorPosition(0);
+        }
+    });
+    return field;
+}
+
+QPlainTextEdit *PropertyForm::longText(const QString &name, Get<QString> get, Set<QString> set)
+{
+    auto *field = new QPlainTextEdit(this);
+    field->setAccessibleName(name);
+    field->setTabChangesFocus(true);
+    field->setMaximumHeight(field->fontMetrics().lineSpacing() * 4 + 12);
+    field->installEventFilter(this);
+    connect(this, &PropertyForm::focusLeft, field, [=, this](QObject *left) {
+        if (left == field)
+            write(field->toPlainText(), get, set);
+    });
+    m_refreshers.append([=] {
+        if (field->toPlainText() != get())
+            field->setPlainText(get());
+    });
+    return field;
+}
+
+QSpinBox *PropertyForm::number(const QString &name, Get<int> get, Set<int> set)
+{
+    auto *field = new QSpinBox(this);
+    field->setAccessibleName(name);
+    // Documents may hold any number; none is changed by being shown.
+    field->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(u'0') * 6 + 24);
+    field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    field->setFocusPolicy(Qt::StrongFocus);
+    field->installEventFilter(this);
+    connect(field, &QSpinBox::editingFinished, this, [=, this] { write(field->value(), get, set); });
+    m_refreshers.append([=] { field->setValue(get()); });
+    return field;
+}
+
+QCheckBox *PropertyForm::check(const QString &caption, Get<bool> get, Set<bool> set)
+{
+    auto *field = new QCheckBox(caption, this);
+    field->setAccessibleName(caption);
+    connect(field, &QCheckBox::clicked, this, [=, this](bool checked) { write(checked, get, set); });
+    m_refreshers.append([=] { field->setChecked(get()); });
+    return field;
+}
+
+QComboBox *PropertyForm::choice(const QString &name, const QList<QString> &choices, Get<QString> get,
+                                Set<QString> set)
+{
+    auto *field = new QComboBox(this);
+    field->setAccessibleName(name);
+    field->setEditable(true);
+    field->setInsertPolicy(QComboBox::NoInsert);
+    field->addItems(choices);
+    field->setFocusPolicy(Qt::StrongFocus);
+    field->installEventFilter(this);
+    const auto take = [=, this] { write(field->currentText(), get, set); };
+    connect(field->lineEdit(), &QLineEdit::editingFinished, this, take);
+    connect(field, &QComboBox::activated, this, take);
+    m_refreshers.append([=] { field->setEditText(get()); });
+    return field;
+}
+
+void PropertyForm::addRow(const QString &label, QWidget *control)
+{
+    m_layout->addRow(label, control);
+}
+
+void PropertyForm::addRow(const QString &label, QWidget *left, const QString &rightLabel, QWidget *right)
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(8);
+    auto *between = new QLabel(rightLabel, this);
+    between->setBuddy(right);
+    row->addWidget(left, 1);
+    row->addWidget(between);
+    row->addWidget(right, 1);
+    m_layout->addRow(label, row);
+    if (auto *before = qobject_cast<QLabel *>(m_layout->labelForField(row)))
+        before->setBuddy(left);
+}
+
+void PropertyForm::addHeading(const QString &text)
+{
+    auto *heading = new QLabel(text, this);
+    QFont font = heading->font();
+    font.setBold(true);
+    heading->setFont(font);
+    heading->setContentsMargins(0, 6, 0, 0);
+    m_layout->addRow(heading);
+}
+
+bool PropertyForm::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusOut)
+        Q_EMIT focusLeft(watched);
+    // The wheel scrolls the form; it changes a number only where the person works already.
+    const auto *control = qobject_cast<QWidget *>(watched);
+    if (event->type() == QEvent::Wheel && control && !control->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}

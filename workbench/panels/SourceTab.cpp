@@ -1,0 +1,81 @@
+#include "workbench/panels/SourceTab.h"
+
+#include "workbench/panels/EmptyText.h"
+#include "workbench/panels/Widgets.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QRegularExpression>
+#include <QSortFilterProxyModel>
+#include <QTableView>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+SourceTab::SourceTab(const QString &name, QSortFilterProxyModel *proxy, const QList<QAction *> &actions,
+                     QWidget *parent)
+    : QWidget(parent), m_bar(new QHBoxLayout), m_proxy(proxy)
+{
+    auto *table = new EmptyText<QTableView>(this);
+    table->setEmptyText(tr("Open a file to list its fields here, then drag them onto the variables."));
+    m_view = table;
+    m_proxy->setParent(this);
+    m_view->setModel(m_proxy);
+    Widgets::setUpTable(m_view, name);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setDragEnabled(true);
+    m_view->setDragDropMode(QAbstractItemView::DragOnly);
+    m_view->setDefaultDropAction(Qt::CopyAction);
+    m_view->setDragDropOverwriteMode(false);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+
+    for (QAction *action : actions) {
+        QToolButton *button = Widgets::button(action, this);
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        m_bar->addWidget(button);
+        m_view->addAction(action);
+    }
+    QLineEdit *filter = Widgets::filterField(tr("Filter %1").arg(name), tr("Filter"), this);
+    m_bar->addWidget(filter, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addLayout(m_bar);
+    layout->addWidget(m_view);
+
+    connect(filter, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_proxy->setFilterRegularExpression(QRegularExpression(QRegularExpression::escape(text.trimmed()),
+                                                               QRegularExpression::CaseInsensitiveOption));
+    });
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SourceTab::selectionChanged);
+    connect(m_view, &QAbstractItemView::activated, this, &SourceTab::activated);
+}
+
+void SourceTab::setModel(QAbstractItemModel *model)
+{
+    m_proxy->setSourceModel(model);
+    delete m_model;
+    m_model = model;
+    if (!model)
+        return;
+    model->setParent(this);
+    m_view->horizontalHeader()->setVisible(model->columnCount() > 1);
+    for (int column = 0; column + 1 < model->columnCount(); ++column)
+        m_view->setColumnWidth(column, column == 0 ? 180 : 420);
+    if (m_proxy->rowCount() > 0)
+        m_view->selectRow(0);
+    Q_EMIT selectionChanged();
+}
+
+void SourceTab::addControl(QWidget *control)
+{
+    m_bar->insertWidget(m_bar->count() - 1, control);
+}
+
+QMimeData *SourceTab::payload() const
+{
+    const QModelIndexList rows = m_view->selectionModel()->selectedRows();
+    return rows.isEmpty() ? nullptr : m_proxy->mimeData(rows);
+}

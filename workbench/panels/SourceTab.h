@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QWidget>
+
+class QAbstractItemModel;
+class QAction;
+class QBoxLayout;
+class QMimeData;
+class QSortFilterProxyModel;
+class QTableView;
+
+/// One tab of the sources: a list to filter, whose rows are dragged onto the variable table.
+class SourceTab : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// \a proxy, which the tab takes over, sorts and filters the rows. The buttons for \a actions stand
+    /// before the filter.
+    SourceTab(const QString &name, QSortFilterProxyModel *proxy, const QList<QAction *> &actions,
+              QWidget *parent = nullptr);
+
+    [[nodiscard]] QTableView *view() const { return m_view; }
+    /// Shows \a model, which the tab takes over, instead of the one before.
+    void setModel(QAbstractItemModel *model);
+    /// Puts \a control before the filter.
+    void addControl(QWidget *control);
+    /// What a drag of the selected rows carries, the caller's; null when nothing is selected.
+    [[nodiscard]] QMimeData *payload() const;
+
+Q_SIGNALS:
+    void selectionChanged();
+    /// A row was activated by double click or key.
+    void activated();
+
+private:
+    QBoxLayout *m_bar;
+    QTableView *m_view;
+    QSortFilterProxyModel *m_proxy;
+    QAbstractItemModel *m_model = nullptr; // Owned by the tab.
+};

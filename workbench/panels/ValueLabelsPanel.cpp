@@ -1,0 +1,54 @@
+#include "workbench/panels/ValueLabelsPanel.h"
+
+#include "model/TDcVariable.h"
+#include "model/ValueLabelElement.h"
+#include "models/VarValueLabelDiccionaryModel.h"
+#include "models/VarValueLabelDiccionaryProxyModel.h"
+#include "workbench/operations/ListEdits.h"
+#include "workbench/operations/NewCodes.h"
+
+ValueLabelsPanel::ValueLabelsPanel(const Workspace &workspace, QWidget *parent)
+    : ItemsPanel(workspace, tr("Value labels"), new VarValueLabelDiccionaryProxyModel(nullptr),
+                 {ActionId::LabelAdd, ActionId::LabelRemove, ActionId::LabelMoveUp, ActionId::LabelMoveDown},
+                 parent)
+{
+    start();
+}
+
+QAbstractItemModel *ValueLabelsPanel::createModel(TDcVariable *variable)
+{
+    return new VarValueLabelDiccionaryModel(this, variable);
+}
+
+QString ValueLabelsPanel::emptyText() const
+{
+    return tr("No value labels.");
+}
+
+QList<void *> ValueLabelsPanel::items(TDcVariable *variable) const
+{
+    return ListEdits::untyped(*variable->getValueLabelElementList());
+}
+
+void ValueLabelsPanel::add(TDcVariable *variable)
+{
+    auto *element = new ValueLabelElement;
+    element->setValue(NewCodes::next(*variable));
+    variable->addValueLabelElement(element);
+}
+
+void ValueLabelsPanel::remove(TDcVariable *variable, const QList<void *> &items)
+{
+    ListEdits::remove(*variable->getValueLabelElementList(), ListEdits::typed<ValueLabelElement>(items));
+}
+
+void ValueLabelsPanel::move(TDcVariable *variable, const QList<void *> &items, bool up)
+{
+    ListEdits::move(*variable->getValueLabelElementList(), ListEdits::typed<ValueLabelElement>(items), up);
+}
+
+bool ValueLabelsPanel::canMove(TDcVariable *variable, const QList<void *> &items, bool up) const
+{
+    return ListEdits::canMove(*variable->getValueLabelElementList(),
+                              ListEdits::typed<ValueLabelElement>(items), up);
+}

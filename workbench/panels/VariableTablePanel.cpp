@@ -1,0 +1,191 @@
+#include "workbench/panels/VariableTablePanel.h"
+
+#include "model/TDcEntity.h"
+#include "model/TDcVariable.h"
+#include "models/VariableDiccionaryModel.h"
+#include "models/VariablesDictionaryProxyModel.h"
+#include "workbench/Actions.h"
+#include "workbench/Document.h"
+#include "workbench/panels/EmptyText.h"
+#include "workbench/panels/Widgets.h"
+#include "workbench/Selection.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QScopedValueRollback>
+#include <QTableView>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *parent)
+    : QWidget(parent), m_workspace(workspace),
+      m_filter(Widgets::filterField(tr("Filter variables"),
+                                    tr("Filter variables by name, alias, label, group or tag"), this)),
+      m_count(new QLabel(this)), m_proxy(new VariablesDictionaryProxyModel(this))
+{
+    auto *table = new EmptyText<QTableView>(this);
+    table->setEmptyText(tr("No variables to show. Add one, or drag fields here from the sources below."));
+    m_view = table;
+    Widgets::setUpTable(m_view, tr("Variables"));
+    m_view->setModel(m_proxy);
+    m_view->setAcceptDrops(true);
+    m_view->setDragDropMode(QAbstractItemView::DropOnly);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_view->horizontalHeader()->setStretchLastSection(false);
+    m_count->setAccessibleName(tr("Number of variables"));
+
+    auto *bar = new QHBoxLayout;
+    bar->addWidget(m_filter, 1);
+    bar->addWidget(m_count);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 0);
+    layout->addLayout(bar);
+    layout->addWidget(m_view);
+
+    connect(m_filter, &QLineEdit::textChanged, this, &VariableTablePanel::setFilter);
+    connect(workspace.selection, &Selection::entityChanged, this, &VariableTablePanel::showEntity);
+    connect(workspace.selection, &Selection::variablesChanged, this, &VariableTablePanel::showSelection);
+    connect(workspace.document, &Document::contentChanged, this, [this] {
+        // What the person sees is painted anew; order and filter are worked out again only where there are
+        // any.
+        const bool arranged = m_proxy->sortColumn() >= 0 || !m_filter->text().trimmed().isEmpty();
+        if (m_model && m_model->rowCount() > 0 && arranged && !m_committing)
+            Q_EMIT m_model->dataChanged(m_model->index(0, 0), m_model->index(m_model->rowCount() - 1, 4));
+        m_view->viewport()->update();
+        updateActions();
+    });
+    connectActions();
+    showEntity(workspace.selection->entity());
+    showSelection();
+}
+
+void VariableTablePanel::showEntity(TDcEntity *entity)
+{
+    const QScopedValueRollback following(m_showing, true);
+    m_proxy->setSourceModel(nullptr);
+    delete m_model;
+    m_model = nullptr;
+    if (entity) {
+        m_model = new VariableDiccionaryModel(this, entity, m_workspace.document->root());
+        connectModel();
+        m_proxy->setSourceModel(m_model);
+        arrangeColumns();
+        // The view's selection model goes with each model that it is given; the proxy stays the same.
+        connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                &VariableTablePanel::takeSelection, Qt::UniqueConnection);
+        connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+                &VariableTablePanel::takeSelection, Qt::UniqueConnection);
+    }
+    updateCount();
+}
+
+void VariableTablePanel::arrangeColumns()
+{
+    if (std::exchange(m_arranged, true))
+        return;
+    QHeaderView *header = m_view->horizontalHeader();
+    const int letter = fontMetrics().averageCharWidth();
+    const int widths[] = {20, 12, 30, 14, 8}; // In letters; the label takes what is left.
+    for (int column = 0; column < header->count(); ++column)
+        header->resizeSection(column, widths[column] * letter);
+    header->setSectionResizeMode(2, QHeaderView::Stretch);
+}
+
+void VariableTablePanel::connectModel()
+{
+    // An edit of a cell is one step. A drop is one step too: it says so per field, then per variable that it
+    // adds, and resets the model when it is done.
+    connect(m_model, &VariableDiccionaryModel::signalVariableDropped, this, [this] { ++m_imported; });
+    connect(m_model, &VariableDiccionaryModel::signalVariablesModified, this, [this] {
+        if (m_imported > 0)
+            return;
+        const QScopedValueRollback committing(m_committing, true);
+        m_workspace.document->commit({}, m_workspace.selection->entity());
+    });
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
+        const int fields = std::exchange(m_imported, 0);
+        if (fields == 0)
+            return;
+        TDcEntity *entity = m_workspace.selection->entity();
+        m_workspace.document->commit(tr("import of %n field(s)", nullptr, fields), entity);
+        TDcVariable *last = entity->getVariables()->isEmpty() ? nullptr : entity->getVariables()->last();
+        m_workspace.selection->select(entity, last);
+        showSelection();
+        updateCount();
+    });
+}
+
+QModelIndex VariableTablePanel::indexOf(const TDcVariable *variable, int column) const
+{
+    for (int row = 0; m_model && row < m_model->rowCount(); ++row) {
+        if (m_model->index(row, 0).internalPointer() == variable)
+            return m_proxy->mapFromSource(m_model->index(row, column));
+    }
+    return {};
+}
+
+void VariableTablePanel::showSelection()
+{
+    updateActions();
+    if (m_showing)
+        return;
+    const QScopedValueRollback following(m_showing, true);
+    QItemSelection rows;
+    const QList<TDcVariable *> variables = m_workspace.selection->variables();
+    for (const TDcVariable *variable : variables) {
+        if (const QModelIndex index = indexOf(variable); index.isValid())
+            rows.select(index, index);
+    }
+    const int column = qMax(0, m_view->currentIndex().column());
+    const QModelIndex current = indexOf(m_workspace.selection->variable(), column);
+    m_view->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    m_view->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (current.isValid())
+        m_view->scrollTo(current);
+}
+
+void VariableTablePanel::takeSelection()
+{
+    if (m_showing || !m_model)
+        return;
+    const QScopedValueRollback following(m_showing, true);
+    QList<int> rows;
+    const QModelIndexList selected = m_view->selectionModel()->selectedRows();
+    std::transform(selected.cbegin(), selected.cend(), std::back_inserter(rows),
+                   [this](const QModelIndex &index) { return m_proxy->mapToSource(index).row(); });
+    std::sort(rows.begin(), rows.end());
+    QList<TDcVariable *> variables;
+    std::transform(rows.cbegin(), rows.cend(), std::back_inserter(variables), [this](int row) {
+        return static_cast<TDcVariable *>(m_model->index(row, 0).internalPointer());
+    });
+    const QModelIndex current = m_proxy->mapToSource(m_view->currentIndex());
+    auto *variable = static_cast<TDcVariable *>(current.internalPointer());
+    m_workspace.selection->setVariables(variables,
+                                        variables.contains(variable) ? variable : variables.value(0));
+    updateCount();
+}
+
+void VariableTablePanel::setFilter(const QString &text)
+{
+    m_proxy->setFilterRegularExpression(QRegularExpression(QRegularExpression::escape(text.trimmed()),
+                                                           QRegularExpression::CaseInsensitiveOption));
+    const bool filtered = !text.trimmed().isEmpty();
+    static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(
+        filtered ? tr("No variable matches the filter.")
+                 : tr("No variables to show. Add one, or drag fields here from the sources below."));
+    if (!m_view->currentIndex().isValid() && m_proxy->rowCount() > 0)
+        m_view->selectRow(0);
+    updateCount();
+}
+
+void VariableTablePanel::updateCount()
+{
+    const int all = m_model ? m_model->rowCount() : 0;
+    const int shown = m_proxy->rowCount();
+    m_count->setText(shown == all ? tr("%n variable(s)", nullptr, all)
+                                  : tr("%1 of %n variable(s)", nullptr, all).arg(shown));
+}

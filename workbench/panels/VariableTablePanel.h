@@ -1,0 +1,62 @@
+#pragma once
+
+#include "workbench/operations/VariableEdits.h"
+#include "workbench/Workspace.h"
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QMimeData;
+class QModelIndex;
+class QTableView;
+class TDcEntity;
+class TDcVariable;
+class VariableDiccionaryModel;
+class VariablesDictionaryProxyModel;
+
+/// The variables of the current entity: a table to sort, to filter, to edit in place and to drop fields on.
+class VariableTablePanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit VariableTablePanel(const Workspace &workspace, QWidget *parent = nullptr);
+
+    [[nodiscard]] QTableView *view() const { return m_view; }
+    [[nodiscard]] QLineEdit *filterField() const { return m_filter; }
+    /// The model behind the view; null while there is no entity. Drops go through it.
+    [[nodiscard]] VariableDiccionaryModel *model() const { return m_model; }
+    /// Makes variables of the fields in \a payload, as dropping it on the view does.
+    void importFields(const QMimeData *payload);
+
+private:
+    void connectActions();
+    void connectModel();
+    void arrangeColumns();
+    void showEntity(TDcEntity *entity);
+    void showSelection();
+    void takeSelection();
+    void setFilter(const QString &text);
+    void updateCount();
+    void updateActions();
+
+    void addVariable();
+    void duplicateVariables();
+    void removeVariables();
+    void moveVariables(bool up);
+    void toggleRole(VariableEdits::Role role);
+
+    [[nodiscard]] QModelIndex indexOf(const TDcVariable *variable, int column = 0) const;
+
+    Workspace m_workspace;
+    QLineEdit *m_filter;
+    QLabel *m_count;
+    QTableView *m_view;
+    VariablesDictionaryProxyModel *m_proxy;
+    VariableDiccionaryModel *m_model = nullptr; // Owned by the panel.
+    int m_imported = 0; // Fields of the drop that is under way.
+    bool m_arranged = false; // The columns have their widths.
+    bool m_committing = false; // An edit of the table itself is under way.
+    bool m_showing = false; // The view follows the selection, not the other way round.
+};

@@ -1,0 +1,60 @@
+#include "workbench/panels/Widgets.h"
+
+#include "common/IconPaths.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QTableView>
+#include <QToolButton>
+
+QToolButton *Widgets::button(QAction *action, QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setDefaultAction(action);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setIconSize(QSize(16, 16));
+    button->setAccessibleName(action->toolTip());
+    return button;
+}
+
+QLineEdit *Widgets::filterField(const QString &name, const QString &placeholder, QWidget *parent)
+{
+    auto *field = new QLineEdit(parent);
+    field->setAccessibleName(name);
+    field->setPlaceholderText(placeholder);
+    field->setClearButtonEnabled(true);
+    field->addAction(QIcon(IconPaths::filter), QLineEdit::LeadingPosition);
+    return field;
+}
+
+void Widgets::setUpTable(QTableView *table, const QString &name)
+{
+    table->setAccessibleName(name);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
+                           | QAbstractItemView::AnyKeyPressed);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->setIconSize(QSize(16, 16));
+    table->setTabKeyNavigation(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setSortIndicatorClearable(true);
+    table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    table->setSortingEnabled(true);
+}
+
+void Widgets::bindKey(QAbstractItemView *view, const QKeySequence &key, QAction *action)
+{
+    auto *shortcut = new QShortcut(key, view);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, action, &QAction::trigger);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QIcon>
+#include <QKeySequence>
+#include <QString>
+
+class QAbstractItemView;
+class QAction;
+class QLineEdit;
+class QTableView;
+class QToolButton;
+class QWidget;
+
+/// How controls look and behave everywhere in the workbench.
+namespace Widgets
+{
+/// A flat button for \a action, reachable by Tab.
+[[nodiscard]] QToolButton *button(QAction *action, QWidget *parent);
+/// A line to type a filter into, with a button that clears it. \a name is what it is called aloud.
+[[nodiscard]] QLineEdit *filterField(const QString &name, const QString &placeholder, QWidget *parent);
+/// Sets up a table of rows: whole rows are selected, a click on a header sorts, a third one stops sorting.
+void setUpTable(QTableView *table, const QString &name);
+/// Lets \a key trigger \a action while \a view has the focus. Editors in the view keep the key for
+/// themselves.
+void bindKey(QAbstractItemView *view, const QKeySequence &key, QAction *action);
+} // namespace Widgets

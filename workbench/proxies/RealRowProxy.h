@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QIdentityProxyModel>
+
+/// Stands between a tree model of the layer and everything else, and gives each parent its true row.
+///
+/// The layer's tree models report the level of the asked child as the row of its parent, which views take for
+/// another index. Above this proxy, views, persistent indexes and sorting proxies work as usual.
+///
+/// The tree models do not observe the objects that they show. Whoever adds, removes or moves some of them
+/// does it between beginTreeChange() and endTreeChange().
+class RealRowProxy : public QIdentityProxyModel
+{
+    Q_OBJECT
+
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    [[nodiscard]] QModelIndex parent(const QModelIndex &child) const override;
+
+    /// The index that shows \a object; invalid when the tree does not hold it. A search.
+    [[nodiscard]] QModelIndex indexOf(const void *object) const;
+
+    void beginTreeChange() { beginResetModel(); }
+    void endTreeChange() { endResetModel(); }
+};
