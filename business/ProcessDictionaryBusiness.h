@@ -17,10 +17,10 @@ class VarWipChoice;
 
 /// Converts an entity tree to a dictionary document and back. Stateless.
 ///
-/// Reading and writing are not inverse, on purpose; the field tables in internal/DictionaryFields.h show every
-/// difference. The readers reject nothing: keys they do not know are ignored, missing ones leave the defaults
-/// and values of the wrong type go through QVariant's conversions. A list is whatever QVariant::toList()
-/// makes of a value, so a text counts as the list of its characters.
+/// Reading and writing are not inverse, on purpose; the field tables in internal/DictionaryFields.h show
+/// every difference. The readers reject nothing: keys they do not know are ignored, missing ones leave the
+/// defaults and values of the wrong type go through QVariant's conversions. A list is whatever
+/// QVariant::toList() makes of a value, so a text counts as the list of its characters.
 ///
 /// Lists and objects that a reader returns belong to the caller. A standard exception is written to the
 /// debug log and ends the reading (or writing) where it occurs.
