@@ -31,10 +31,26 @@ void readVariable(TDcVariable &variable, const QVariantMap &map)
 
 namespace DictionaryDocument
 {
+/// Fills \a out as far as it can be filled. An exception costs an entity what comes after it, not its parent.
+void writeEntity(TDcEntity &entity, QJsonObject &out)
+{
+    guarded([&] {
+        for (const Step step : {Step::Own, Step::Items, Step::Children})
+            write(entityFields, EntityNode{.entity = entity}, out, step);
+    });
+}
+
 QJsonValue writeChildren(const EntityNode &node)
 {
-    return writeArray(entityFields, *node.entity.getChildren(),
-                      [](TDcEntity &child) { return EntityNode{.entity = child}; });
+    QJsonArray children;
+    for (TDcEntity *child : std::as_const(*node.entity.getChildren())) {
+        if (!child)
+            continue;
+        QJsonObject written;
+        writeEntity(*child, written);
+        children.append(written);
+    }
+    return children.isEmpty() ? leftOut() : QJsonValue(children);
 }
 
 /// Null when there is no list of entities or it cannot be read to its end.
@@ -108,7 +124,7 @@ using namespace DictionaryDocument;
 
 void ProcessDictionaryBusiness::getStructuraTreeRootToJson(TDcEntity *entity, QJsonObject *out)
 {
-    guarded([&] { write(entityFields, EntityNode{.entity = *entity}, *out); });
+    writeEntity(*entity, *out);
 }
 
 QList<TDcEntity *> *ProcessDictionaryBusiness::recorrerNodosJsonYCargaEstructuraEntidades(

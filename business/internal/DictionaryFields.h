@@ -218,7 +218,7 @@ inline constexpr Field<EntityNode> entityFields[] = {
     {"codeVar"_L1, textUnlessEmpty<&TDcEntity::getRefCode>, text<&TDcEntity::setRefCode>},
     {"documentation"_L1, textUnlessEmpty<&TDcEntity::getDocumentationEntity>,
      text<&TDcEntity::setDocumentationEntity>},
-    {"entities"_L1, writeChildren, readChildren},
+    {"entities"_L1, writeChildren, readChildren, Step::Children},
     {"label"_L1, textUnlessEmpty<&TDcEntity::getLabel>, text<&TDcEntity::setLabel>},
     {"labelVar"_L1, textUnlessEmpty<&TDcEntity::getRefLabel>, text<&TDcEntity::setRefLabel>},
     {"name"_L1, textUnlessEmpty<&TDcEntity::getName>, text<&TDcEntity::setName>},
@@ -231,7 +231,8 @@ inline constexpr Field<EntityNode> entityFields[] = {
      [](EntityNode &node, const QVariant &value, Form) {
          addItems(readVariables, value,
                   [&node](TDcVariable *variable) { node.entity.addVariables(variable); });
-     }},
+     },
+     Step::Items},
     {"virtual"_L1, always<&TDcEntity::getIsvirtual>, flag<&TDcEntity::setIsvirtual>},
     {"weightVar"_L1, textUnlessEmpty<&TDcEntity::getWeightVariable>, weightVariable<Form::Element>},
     {"weigthVar"_L1, neverWritten, weightVariable<Form::Single>}, // misspelt, and meant to be

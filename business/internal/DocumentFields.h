@@ -18,12 +18,16 @@ namespace Document
 /// How an object came: as an element of a list, or on its own where a list is usual.
 enum class Form { Element, Single };
 
+/// When a field is written. Writing may break off, so what an object holds below it comes after its own keys.
+enum class Step { Own, Items, Children };
+
 /// One key of a JSON object. A field without `write` is never written, one without `read` never read.
 template <typename Object>
 struct Field {
     QLatin1StringView key;
     QJsonValue (*write)(const Object &); ///< An undefined value leaves the key out.
     void (*read)(Object &, const QVariant &, Form);
+    Step step = Step::Own;
 };
 
 inline constexpr auto neverWritten = nullptr;
@@ -45,12 +49,12 @@ consteval bool ascends(const Field<Object> (&fields)[Size])
     });
 }
 
-/// Adds the keys of \a object to \a out.
+/// Adds those keys of \a object to \a out that are written at \a step.
 template <typename Object, std::size_t Size>
-void write(const Field<Object> (&fields)[Size], const Object &object, QJsonObject &out)
+void write(const Field<Object> (&fields)[Size], const Object &object, QJsonObject &out, Step step = Step::Own)
 {
     for (const Field<Object> &field : fields) {
-        if (!field.write)
+        if (!field.write || field.step != step)
             continue;
         if (const QJsonValue value = field.write(object); !value.isUndefined())
             out.insert(field.key, value);
