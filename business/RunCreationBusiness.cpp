@@ -44,10 +44,10 @@ QJsonValue writeNames(const ConfigEntities &entity)
     return names.isEmpty() ? leftOut() : QJsonValue(names);
 }
 
-/// A text is no list of names here.
+/// A text is no list of names here, however it is encoded.
 void readNames(ConfigEntities &entity, const QVariant &value, Form)
 {
-    if (value.typeId() == QMetaType::QString)
+    if (value.typeId() == QMetaType::QString || value.typeId() == QMetaType::QByteArray)
         return;
     forEachElement(value, [&entity](const QVariant &name) { entity.addVariables(name.toString()); });
 }
