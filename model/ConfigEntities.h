@@ -6,6 +6,7 @@
 #include <memory>
 #include <QList>
 #include <QString>
+#include <utility>
 
 /// How one entity takes part in a run.
 class MODEL_QUILLON_EXPORT ConfigEntities : public FromDocument
@@ -41,7 +42,7 @@ public:
     /// Takes \a variables over and deletes the list before, unless it is the same. Null stands for an empty
     /// list.
     void setVariables(QList<QString> *variables);
-    void addVariables(const QString &name) { m_variables->append(name); }
+    void addVariables(QString name) { m_variables->append(std::move(name)); }
 
 private:
     QString m_name;
