@@ -5,7 +5,8 @@
 #include <algorithm>
 #include <ctime>
 #include <functional>
-#include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 /// CPU time that the calling thread has used, in seconds. Other programs on the machine do not disturb it.
@@ -16,41 +17,71 @@ inline double threadSeconds()
     return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
 }
 
-/// The CPU time of `work()`. What it returns is freed outside of the measurement.
+/// What some work made, and the CPU time it took.
+template <typename Result>
+struct Timed {
+    Result result;
+    double seconds;
+};
+
 template <typename Work>
-double secondsOf(Work &&work)
+auto timed(Work &&work) -> Timed<std::invoke_result_t<Work>>
 {
     const double start = threadSeconds();
-    const auto result = std::invoke(work);
+    auto result = std::invoke(work);
     const double end = threadSeconds();
     benchmark::DoNotOptimize(&result);
-    return end - start;
+    return {std::move(result), end - start};
 }
 
-inline double median(std::vector<double> values)
+/// The ratio of two sides that run in turn, in the medians of their CPU times. Benchmarks that use it need
+/// UseManualTime(); their time is that of the measured side.
+class Ratio
 {
-    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
+public:
+    explicit Ratio(benchmark::State &state) : m_state(state) { }
 
-/// Runs both sides in turn, once in each iteration, and reports the ratio of their CPU times (medians) beside
-/// the highest ratio that is good enough; a goal of 0 stands for none. Each side returns what it made. The
-/// benchmark needs UseManualTime(); its time is that of \a measured.
+    /// Adds one iteration.
+    void add(double measured, double reference)
+    {
+        m_measured.push_back(measured);
+        m_reference.push_back(reference);
+        m_state.SetIterationTime(measured);
+    }
+
+    /// Prints the ratio beside \a goal, the highest that is good enough; 0 stands for none.
+    void report(double goal = 0)
+    {
+        const double ratio = median(m_measured) / median(m_reference);
+        m_state.counters["ratio"] = ratio;
+        if (goal <= 0)
+            return;
+        m_state.counters["goal"] = goal;
+        m_state.SetLabel(ratio <= goal ? "goal reached" : "GOAL MISSED");
+    }
+
+private:
+    static double median(std::vector<double> values)
+    {
+        const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
+        std::nth_element(values.begin(), middle, values.end());
+        return *middle;
+    }
+
+    benchmark::State &m_state;
+    std::vector<double> m_measured;
+    std::vector<double> m_reference;
+};
+
+/// Compares two sides that do not need each other. Each returns what it made, which is freed outside of the
+/// measurement.
 template <typename Measured, typename Reference>
 void runInTurn(benchmark::State &state, double goal, Measured measured, Reference reference)
 {
-    std::vector<double> ours;
-    std::vector<double> theirs;
+    Ratio ratio(state);
     for ([[maybe_unused]] auto iteration : state) {
-        theirs.push_back(secondsOf(reference));
-        ours.push_back(secondsOf(measured));
-        state.SetIterationTime(ours.back());
+        const double theirs = timed(reference).seconds;
+        ratio.add(timed(measured).seconds, theirs);
     }
-    const double ratio = median(ours) / median(theirs);
-    state.counters["ratio"] = ratio;
-    if (goal > 0) {
-        state.counters["goal"] = goal;
-        state.SetLabel(ratio <= goal ? "goal reached" : "GOAL MISSED");
-    }
+    ratio.report(goal);
 }
