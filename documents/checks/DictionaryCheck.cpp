@@ -1,0 +1,147 @@
+#include "documents/checks/DictionaryCheck.h"
+
+#include "documents/checks/internal/Rules.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+/// Gathers the entities without recursion: a chain of them may be deeper than the stack.
+Checks::Dictionary gather(TDcEntity *root)
+{
+    Checks::Dictionary dictionary;
+    std::vector<Checks::EntityNode> pending;
+    if (root)
+        pending.push_back({root, nullptr});
+    while (!pending.empty()) {
+        const Checks::EntityNode node = pending.back();
+        pending.pop_back();
+        const QString name = Checks::folded(node.entity->getName());
+        if (!name.isEmpty() && !dictionary.entityNames.contains(name))
+            dictionary.entityNames.insert(name, node.entity);
+        dictionary.entities.push_back(node);
+        const auto &children = *node.entity->getChildren();
+        std::for_each(children.crbegin(), children.crend(), [&](TDcEntity *child) {
+            if (child)
+                pending.push_back({child, &dictionary.entities.back()});
+        });
+    }
+    return dictionary;
+}
+
+Checks::Entity lookAt(const Checks::Dictionary &dictionary, const Checks::EntityNode &node)
+{
+    Checks::Entity entity{dictionary, node, {}, {}, {}};
+    const auto insertFirst = [](QHash<QString, TDcVariable *> &hash, const QString &text,
+                                TDcVariable *variable) {
+        const QString key = Checks::folded(text);
+        if (!key.isEmpty() && !hash.contains(key))
+            hash.insert(key, variable);
+    };
+    for (TDcVariable *variable : std::as_const(*node.entity->getVariables())) {
+        if (!variable)
+            continue;
+        entity.variables.append(variable);
+        insertFirst(entity.names, variable->getName(), variable);
+        insertFirst(entity.aliases, variable->getAlias(), variable);
+    }
+    return entity;
+}
+
+template <typename Subject>
+void appendRules(std::span<const Checks::Rule<Subject>> from, QList<CheckRule> &rules)
+{
+    std::transform(from.begin(), from.end(), std::back_inserter(rules), [](const auto &rule) {
+        return CheckRule{rule.id, rule.severity, DictionaryCheck::tr(rule.title)};
+    });
+}
+} // namespace
+
+QList<Finding> DictionaryCheck::check(TDcEntity *root)
+{
+    QList<Finding> findings;
+    const Checks::Dictionary dictionary = gather(root);
+    Checks::apply(Checks::dictionaryRules(), dictionary, findings);
+    for (const Checks::EntityNode &node : dictionary.entities) {
+        const Checks::Entity entity = lookAt(dictionary, node);
+        Checks::apply(Checks::entityRules(), entity, findings);
+        Checks::apply(Checks::entityNameRules(), entity, findings);
+        for (TDcVariable *item : entity.variables) {
+            const Checks::Variable variable{entity, *item, TypeWord(item->getVarType())};
+            Checks::apply(Checks::variableRules(), variable, findings);
+            Checks::apply(Checks::valueRules(), variable, findings);
+        }
+    }
+    return findings;
+}
+
+QString DictionaryCheck::summary(const QList<Finding> &findings)
+{
+    if (findings.isEmpty())
+        return tr("No problems found.");
+    const auto count = [&findings](Severity severity) {
+        return std::count_if(findings.cbegin(), findings.cend(),
+                             [severity](const Finding &finding) { return finding.severity == severity; });
+    };
+    return tr("Errors: %1, warnings: %2, notes: %3.")
+        .arg(count(Severity::Error))
+        .arg(count(Severity::Warning))
+        .arg(count(Severity::Note));
+}
+
+QList<CheckRule> DictionaryCheck::rules()
+{
+    QList<CheckRule> rules;
+    appendRules(Checks::dictionaryRules(), rules);
+    appendRules(Checks::entityRules(), rules);
+    appendRules(Checks::entityNameRules(), rules);
+    appendRules(Checks::variableRules(), rules);
+    appendRules(Checks::valueRules(), rules);
+    return rules;
+}
+
+QString DictionaryCheck::severityName(Severity severity)
+{
+    switch (severity) {
+    case Severity::Error:
+        return tr("Error");
+    case Severity::Warning:
+        return tr("Warning");
+    case Severity::Note:
+        break;
+    }
+    return tr("Note");
+}
+
+QString Checks::EntityNode::path() const
+{
+    QStringList names;
+    for (const EntityNode *node = this; node; node = node->parent)
+        names.prepend(node->entity->getName());
+    return names.join(u'/');
+}
+
+void Checks::Report::add(const Dictionary &dictionary, const QString &message, const QString &suggestion)
+{
+    const EntityNode &root = dictionary.entities.front();
+    m_findings.append(
+        {m_rule, m_severity, nullptr, nullptr, nullptr, nullptr, root.path(), message, suggestion});
+}
+
+void Checks::Report::add(const EntityNode &node, const QString &message, const QString &suggestion)
+{
+    m_findings.append(
+        {m_rule, m_severity, node.entity, nullptr, nullptr, nullptr, node.path(), message, suggestion});
+}
+
+void Checks::Report::add(const Entity &entity, TDcVariable &variable, const QString &message,
+                         const QString &suggestion, ValueLabelElement *valueLabel, Range *range)
+{
+    m_findings.append({m_rule, m_severity, &entity.entity(), &variable, valueLabel, range,
+                       entity.node.path() + u'/' + variable.getName(), message, suggestion});
+}
