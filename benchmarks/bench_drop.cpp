@@ -20,7 +20,7 @@ namespace
 constexpr int small = 10'000;
 constexpr int large = 2 * small;
 constexpr double doublingGoal = 2.5;
-constexpr int runs = 9;
+constexpr int runs = 15;
 
 /// The label keeps all four texts from being equal, so that nobody is asked.
 QString fieldText(int number, const QString &prefix)

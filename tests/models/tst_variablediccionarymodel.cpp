@@ -418,10 +418,10 @@ COUNTRY/nation
 
     void anAliasIsReadAsAPatternBeforeItIsCompared()
     {
+        const MessageBoxAnswer box;
         variable(1)->setAlias(u"sx."_s);
         QVERIFY(m_model->setData(cell(0, Alias), u"sx."_s)); // It matches itself, so it is no clash.
         variable(2)->setAlias(u"in+c"_s);
-        const MessageBoxAnswer box;
         QVERIFY(!m_model->setData(cell(0, Alias), u"in+c"_s)); // It does not, so it is one.
         QCOMPARE(box.texts(), QStringList{u"The value already exists as the alias of a variable."_s});
     }
@@ -545,9 +545,9 @@ COUNTRY/nation
 
     void looksAtTheNamesAfreshEachTime()
     {
+        const MessageBoxAnswer box;
         QVERIFY(m_model->setData(cell(0, Group), u"LATER"_s));
         findEntity(m_root.get(), u"STEP")->setName(u"LATER"_s);
-        const MessageBoxAnswer box;
         QVERIFY(!m_model->setData(cell(1, Group), u"LATER"_s));
     }
 
