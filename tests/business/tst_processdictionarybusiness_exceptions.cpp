@@ -38,6 +38,14 @@ void *operator new[](std::size_t size)
 {
     return allocate(size);
 }
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept
+{
+    return std::malloc(size > 0 ? size : 1); // NOLINT(cppcoreguidelines-no-malloc)
+}
+void *operator new[](std::size_t size, const std::nothrow_t &) noexcept
+{
+    return std::malloc(size > 0 ? size : 1); // NOLINT(cppcoreguidelines-no-malloc)
+}
 void operator delete(void *memory) noexcept
 {
     std::free(memory); // NOLINT(cppcoreguidelines-no-malloc)
