@@ -59,7 +59,7 @@ DatasetPropertiesFieldsModel::DatasetPropertiesFieldsModel(QObject *parent, QLis
 
 QVariant DatasetPropertiesFieldsModel::getItemData(TDcSourceField *field, int column) const
 {
-    const QVariant value = cellValue(columns, field, column);
+    QVariant value = cellValue(columns, field, column);
     if (column != TagColumn || !value.isValid())
         return value;
     return u"%1"_s.arg(value.toInt(), m_tagWidth, 10, '0'_L1);

@@ -16,7 +16,7 @@ constexpr auto patience = 1s;
 
 bool isPlain(const QString &pattern)
 {
-    constexpr auto special = "\\^$.[|()?*+{"_L1;
+    constexpr auto special = R"(\^$.[|()?*+{)"_L1;
     return pattern.isValidUtf16()
         && std::none_of(pattern.cbegin(), pattern.cend(),
                         [special](QChar character) { return special.contains(character); });

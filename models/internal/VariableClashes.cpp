@@ -40,7 +40,7 @@ VariableClashes::VariableClashes(const QList<TDcVariable *> &existing, const QLi
         m_lengths.append(m_names.constLast().size());
     }
     std::sort(m_lengths.begin(), m_lengths.end());
-    m_lengths.erase(std::unique(m_lengths.begin(), m_lengths.end()), m_lengths.end());
+    m_lengths.resize(std::unique(m_lengths.begin(), m_lengths.end()) - m_lengths.begin());
     for (TDcVariable *variable : existing)
         remember(variable);
 }

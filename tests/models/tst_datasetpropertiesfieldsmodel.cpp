@@ -18,12 +18,16 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-QStringList debugLines;
+QStringList &debugLines()
+{
+    static QStringList lines;
+    return lines;
+}
 
 void keepDebugLine(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type == QtDebugMsg)
-        debugLines.append(text);
+        debugLines().append(text);
 }
 
 /// "code|label" for each category of \a field.
@@ -278,11 +282,11 @@ private Q_SLOTS:
     {
         TDcSourceField field;
         field.categories = u"1 Male\t9"_s;
-        debugLines.clear();
+        debugLines().clear();
         const auto before = qInstallMessageHandler(keepDebugLine);
         (void)categoriesOf(field);
         qInstallMessageHandler(before);
-        QCOMPARE(debugLines, (QStringList{u"\"1\" \"Male\""_s, u"\"9\" \"\""_s}));
+        QCOMPARE(debugLines(), (QStringList{u"\"1\" \"Male\""_s, u"\"9\" \"\""_s}));
     }
 
     void dragsEveryProperty()
@@ -323,7 +327,8 @@ private Q_SLOTS:
     {
         DatasetPropertiesFieldsModel model(nullptr, makeFields(1), u"*"_s);
         const std::unique_ptr<QMimeData> data(model.mimeData({model.index(0, 0)}));
-        const QJsonObject object = QJsonDocument::fromJson(payloadTexts(*data).first().toUtf8()).object();
+        const QJsonObject object =
+            QJsonDocument::fromJson(payloadTexts(*data).constFirst().toUtf8()).object();
         QVERIFY(object[u"categories"].isArray());
         QVERIFY(object[u"categories"].toArray().isEmpty());
     }

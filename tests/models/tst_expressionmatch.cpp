@@ -9,11 +9,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-QStringList messages;
+QStringList &messages()
+{
+    static QStringList texts;
+    return texts;
+}
 
 void keepMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
-    messages.append(text);
+    messages().append(text);
 }
 } // namespace
 
@@ -48,12 +52,12 @@ private Q_SLOTS:
     {
         QFETCH(const QString, pattern);
         const QStringList texts{u"AGE"_s, u"SEX"_s, u"A.B"_s, u"LINE\n"_s, u"ab"_s, u"a-b c}]'<>"_s};
-        messages.clear();
+        messages().clear();
         const auto before = qInstallMessageHandler(keepMessage);
         const qsizetype place = ExpressionMatch::indexOf(texts, pattern);
         qInstallMessageHandler(before);
         QTEST(int(place), "place");
-        QCOMPARE(messages, QStringList());
+        QCOMPARE(messages(), QStringList());
     }
 
     void agreesWithTheListsOwnSearch()

@@ -126,7 +126,7 @@ private Q_SLOTS:
         QVERIFY(drop({fieldText(dropped, u"new"_s)}));
         QVERIFY(box.shown().isEmpty());
         QCOMPARE(names().first(existing.size()), existing);
-        QTEST(names().last(), "name");
+        QTEST(names().constLast(), "name");
         QCOMPARE(variables().last()->getMetadataVariables()->getField(), dropped);
     }
 
@@ -134,7 +134,7 @@ private Q_SLOTS:
     {
         m_model->setSplitterCharacter(u"."_s);
         QVERIFY(drop({fieldText(u"AGE.X"_s)}));
-        QCOMPARE(names().last(), u"AGE_A"_s);
+        QCOMPARE(names().constLast(), u"AGE_A"_s);
     }
 
     void fieldsOfOneDropClashWithEachOther()
@@ -209,7 +209,7 @@ private Q_SLOTS:
         const MessageBoxAnswer box;
         QVERIFY(drop({fieldText(u"AGE"_s)}));
         QVERIFY(box.shown().isEmpty());
-        QCOMPARE(names().last(), u"AGE_A"_s);
+        QCOMPARE(names().constLast(), u"AGE_A"_s);
     }
 
     void answersDecide_data()

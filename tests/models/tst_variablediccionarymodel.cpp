@@ -413,7 +413,7 @@ COUNTRY/nation
         const MessageBoxAnswer box;
         QVERIFY(!m_model->setData(cell(0, column), u"visit"_s));
         QCOMPARE(box.shown().size(), 1);
-        QTEST(box.texts().first(), "message");
+        QTEST(box.texts().constFirst(), "message");
     }
 
     void anAliasIsReadAsAPatternBeforeItIsCompared()

@@ -21,6 +21,8 @@ class TestVariableDrop : public QObject, VariableTable
 {
     Q_OBJECT
 
+    QStringList m_announced;
+
 private Q_SLOTS:
     void init() { makeTable(); }
     void cleanup() { clearTable(); }
@@ -81,17 +83,17 @@ private Q_SLOTS:
 
     void announcesDropsEditsAndTheReset()
     {
-        QStringList announced;
+        m_announced.clear();
         connect(m_model.get(), &VariableDiccionaryModel::signalVariableDropped, this,
-                [&announced] { announced += u"dropped"_s; });
+                [this] { m_announced += u"dropped"_s; });
         connect(m_model.get(), &VariableDiccionaryModel::signalVariablesModified, this,
-                [&announced, this] { announced += u"modified %1"_s.arg(names().last()); });
+                [this] { m_announced += u"modified %1"_s.arg(names().constLast()); });
         connect(m_model.get(), &QAbstractItemModel::modelAboutToBeReset, this,
-                [&announced, this] { announced += u"%1 rows"_s.arg(m_model->rowCount()); });
+                [this] { m_announced += u"%1 rows"_s.arg(m_model->rowCount()); });
         connect(m_model.get(), &QAbstractItemModel::modelReset, this,
-                [&announced, this] { announced += u"%1 rows"_s.arg(m_model->rowCount()); });
+                [this] { m_announced += u"%1 rows"_s.arg(m_model->rowCount()); });
         QVERIFY(drop({fieldText(u"A"_s), fieldText(u"B"_s), fieldText(u"A"_s)}));
-        QCOMPARE(announced,
+        QCOMPARE(m_announced,
                  (QStringList{u"dropped"_s, u"dropped"_s, u"modified A"_s, u"modified B"_s, u"2 rows"_s,
                               u"4 rows"_s}));
         QCOMPARE(m_model->index(3, 0).internalPointer(), variables().at(3));
@@ -150,7 +152,7 @@ private Q_SLOTS:
         m_person->setSelectable(true);
         const MessageBoxAnswer box;
         QVERIFY(drop({lookupText(u"12"_s)}));
-        QCOMPARE(names().last(), u"12"_s);
+        QCOMPARE(names().constLast(), u"12"_s);
         QVERIFY(box.shown().isEmpty());
     }
 
@@ -159,7 +161,7 @@ private Q_SLOTS:
     void seesVariablesThatSlotsAdd()
     {
         connect(m_model.get(), &VariableDiccionaryModel::signalVariablesModified, this, [this] {
-            if (names().last() == u"A")
+            if (names().constLast() == u"A")
                 m_person->addVariables(makeVariable(u"B"_s));
         });
         QVERIFY(drop({fieldText(u"A"_s, u"x"_s), fieldText(u"B"_s, u"x"_s)}));
@@ -169,7 +171,7 @@ private Q_SLOTS:
     void seesVariablesThatSlotsTakeAway()
     {
         connect(m_model.get(), &VariableDiccionaryModel::signalVariablesModified, this, [this] {
-            if (names().first() == u"AGE")
+            if (names().constFirst() == u"AGE")
                 delete variables().takeFirst();
         });
         const MessageBoxAnswer box;
