@@ -5,6 +5,9 @@
 #include <QDebug>
 
 /// An expression list of items with a name and a label, to which others can be added.
+///
+/// Drops are decoded by Qt, which trusts the payload: a drop on a row adds that row's item once more, one
+/// below the last row adds nothing. Front ends add items with insertRows().
 template <typename Item>
 class NamedExpressionModel : public TextListDrag<ExpressionListModel<Item>>
 {

@@ -137,6 +137,16 @@ private Q_SLOTS:
         QCOMPARE(payload->formats(), model->mimeTypes());
     }
 
+    void aDropIsTheBaseClasssAndAddsTheItemOfItsRow()
+    {
+        const auto model = makeModel();
+        const std::unique_ptr<QMimeData> payload(model->mimeData({model->index(0, 0)}));
+        model->dropMimeData(payload.get(), Qt::CopyAction, -1, -1, {}); // below the last row
+        QCOMPARE(model->rowCount(), 3);
+        QVERIFY(model->dropMimeData(payload.get(), Qt::CopyAction, -1, -1, model->index(1, 0)));
+        QCOMPARE(*model->getData(), m_items + QList{m_items.at(1)});
+    }
+
     void nullItemsShowTheirIconAlone()
     {
         QList<TDcVariable *> gap{nullptr};
