@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-constexpr auto anyoneMayWrite = QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+constexpr auto anyoneMayWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
 
 size_t digestOf(const QByteArray &bytes)
 {
@@ -23,8 +23,9 @@ size_t digestOf(const QByteArray &bytes)
 QByteArray contentOf(const QString &path, QString *problem)
 {
     const QFileInfo info(path);
-    if (info.exists() && !info.isFile()) {
-        *problem = DocumentFile::tr("It is not a file.");
+    if (path.isEmpty() || !info.isFile()) {
+        *problem = !path.isEmpty() && info.exists() ? DocumentFile::tr("It is not a file.")
+                                                    : DocumentFile::tr("There is no such file.");
         return {};
     }
     QFile file(path);

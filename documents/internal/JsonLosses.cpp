@@ -126,16 +126,17 @@ private:
         for (++m_at; m_text.at(m_at) != '"'; ++m_at)
             m_at += m_text.at(m_at) == '\\' ? 1 : 0;
         if (std::exchange(m_expectsKey, false))
-            key(m_text.sliced(begin, m_at - begin));
+            key(begin, m_text.sliced(begin, m_at - begin));
         ++m_at;
     }
 
-    void key(QByteArrayView raw)
+    void key(qsizetype begin, QByteArrayView raw)
     {
         const QByteArray key =
             raw.contains('\\') ? unescaped(raw) : QByteArray::fromRawData(raw.data(), raw.size());
         if (isRepeated(key))
-            lose(QCoreApplication::translate("DocumentFile",
+            lose(begin - 1,
+                 QCoreApplication::translate("DocumentFile",
                                              "is there more than once; only the last is kept"));
     }
 
@@ -170,7 +171,8 @@ private:
             ++m_at;
         const QByteArrayView token = m_text.sliced(begin, m_at - begin);
         if (!isKept(token))
-            lose(QCoreApplication::translate("DocumentFile", "%1 has more digits than can be kept")
+            lose(begin,
+                 QCoreApplication::translate("DocumentFile", "%1 has more digits than can be kept")
                      .arg(QString::fromLatin1(token)));
     }
 
@@ -189,9 +191,9 @@ private:
         return path;
     }
 
-    void lose(const QString &what)
+    void lose(qsizetype offset, const QString &what)
     {
-        m_losses.append(u"%1: %2 %3"_s.arg(JsonText::place(m_text.toByteArray(), m_at), path(), what));
+        m_losses.append(u"%1: %2 %3"_s.arg(JsonText::place(m_text.toByteArray(), offset), path(), what));
     }
 
     QByteArrayView m_text;
