@@ -41,6 +41,9 @@ enum class ActionId {
     LabelRemove,
     LabelMoveUp,
     LabelMoveDown,
+    SourceOpenDataset,
+    SourceOpenCsv,
+    SourceOpenLookups,
     SourceAppend,
     HelpAbout,
 };

@@ -1,96 +1,100 @@
 #include "workbench/Document.h"
 
 #include "model/TDcEntity.h"
-#include "workbench/DictionaryStorage.h"
 
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
 Document::Document(QObject *parent)
-    : QObject(parent), m_root(newRoot()),
-      m_history(&m_undoStack, [this](std::unique_ptr<TDcEntity> root) { replaceRoot(std::move(root)); })
+    : QObject(parent),
+      m_file(newFile()),
+      m_history(&m_undoStack, [this](auto extent, const auto &change) { announce(extent, change); })
 {
-    m_history.start(*m_root);
+    m_history.start(*root());
     connect(&m_undoStack, &QUndoStack::cleanChanged, this,
             [this](bool clean) { Q_EMIT modifiedChanged(!clean); });
 }
 
-Document::~Document() = default;
-
-std::unique_ptr<TDcEntity> Document::newRoot() const
+Document::~Document()
 {
-    auto root = std::make_unique<TDcEntity>();
-    root->setName(tr("DICTIONARY"));
-    return root;
+    // The stack empties itself when it goes, which is nobody's business any more.
+    m_undoStack.disconnect();
+}
+
+std::unique_ptr<DictionaryFile> Document::newFile() const
+{
+    auto file = std::make_unique<DictionaryFile>();
+    file->root()->setName(tr("DICTIONARY"));
+    return file;
 }
 
 QString Document::title() const
 {
-    return m_path.isEmpty() ? tr("New dictionary") : QFileInfo(m_path).fileName();
+    return path().isEmpty() ? tr("New dictionary") : QFileInfo(path()).fileName();
 }
 
 void Document::clear()
 {
-    start(newRoot(), {});
+    start(newFile());
 }
 
 bool Document::open(const QString &path)
 {
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    std::unique_ptr<TDcEntity> root = DictionaryStorage::read(absolute, &m_errorString);
-    if (!root)
+    auto file = std::make_unique<DictionaryFile>();
+    if (!succeed(file->open(QFileInfo(path).absoluteFilePath()), *file))
         return false;
-    start(std::move(root), absolute);
+    start(std::move(file));
     return true;
 }
 
-bool Document::save(const QString &path)
+bool Document::save(const QString &path, DocumentFile::SaveOptions options)
 {
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    if (!DictionaryStorage::write(*m_root, absolute, &m_errorString))
+    if (!succeed(m_file->saveAs(QFileInfo(path).absoluteFilePath(), options), *m_file))
         return false;
     m_undoStack.setClean();
-    setPath(absolute);
+    Q_EMIT pathChanged(this->path());
     return true;
 }
 
-void Document::start(std::unique_ptr<TDcEntity> root, const QString &path)
+bool Document::succeed(bool done, const DictionaryFile &file)
 {
-    replaceRoot(std::move(root));
-    m_history.start(*m_root);
-    setPath(path);
+    m_error = file.error();
+    m_errorText = file.errorText();
+    return done;
 }
 
-void Document::replaceRoot(std::unique_ptr<TDcEntity> root)
+void Document::start(std::unique_ptr<DictionaryFile> file)
+{
+    {
+        const QScopedValueRollback changing(m_changing, true);
+        Q_EMIT structureAboutToChange();
+        m_file = std::move(file);
+        m_history.start(*root());
+        Q_EMIT structureChanged();
+    }
+    Q_EMIT pathChanged(path());
+}
+
+void Document::announce(History::Extent extent, const std::function<void(TDcEntity &root)> &change)
 {
     const QScopedValueRollback changing(m_changing, true);
-    Q_EMIT structureAboutToChange();
-    m_root = std::move(root);
-    Q_EMIT structureChanged();
-}
-
-void Document::setPath(const QString &path)
-{
-    m_path = path;
-    Q_EMIT pathChanged(path);
+    if (extent == History::Extent::Structure)
+        Q_EMIT structureAboutToChange();
+    change(*root());
+    if (extent == History::Extent::Structure)
+        Q_EMIT structureChanged();
+    else
+        Q_EMIT contentChanged();
 }
 
 void Document::commit(const QString &text, TDcEntity *entity)
 {
-    if (m_changing)
-        return;
-    Q_UNUSED(entity)
-    if (m_history.record(*m_root, text.isEmpty() ? tr("change") : text))
+    if (!m_changing && m_history.record(*root(), text, entity))
         Q_EMIT contentChanged();
 }
 
 void Document::edit(const QString &text, const std::function<void()> &change)
 {
-    {
-        const QScopedValueRollback changing(m_changing, true);
-        Q_EMIT structureAboutToChange();
-        change();
-        Q_EMIT structureChanged();
-    }
+    announce(History::Extent::Structure, [&change](TDcEntity &) { change(); });
     commit(text);
 }

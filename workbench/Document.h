@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/DictionaryFile.h"
 #include "workbench/undo/History.h"
 
 #include <QObject>
@@ -26,9 +27,9 @@ public:
     Q_DISABLE_COPY_MOVE(Document)
 
     /// The root entity. Never null; another one after each opening.
-    [[nodiscard]] TDcEntity *root() const { return m_root.get(); }
+    [[nodiscard]] TDcEntity *root() const { return m_file->root(); }
     /// The absolute path; empty for a dictionary that was never saved.
-    [[nodiscard]] QString path() const { return m_path; }
+    [[nodiscard]] QString path() const { return m_file->path(); }
     /// The file's name, or a word for a new dictionary.
     [[nodiscard]] QString title() const;
     /// Whether there are changes that are not saved.
@@ -38,12 +39,18 @@ public:
     /// Starts an empty dictionary.
     void clear();
     /// Replaces the dictionary by the one in the file at \a path. If that fails, nothing changes, and
-    /// errorString() says why.
+    /// errorText() says why.
     [[nodiscard]] bool open(const QString &path);
     /// Saves to \a path, which the dictionary then belongs to. The history stays.
-    [[nodiscard]] bool save(const QString &path);
-    /// Why the last open() or save() failed, in words for the person.
-    [[nodiscard]] QString errorString() const { return m_errorString; }
+    [[nodiscard]] bool save(const QString &path, DocumentFile::SaveOptions options = {});
+    /// Whether nobody may write the file.
+    [[nodiscard]] bool isReadOnly() const { return m_file->isReadOnly(); }
+    /// What saving cannot keep of the file as it was opened, one line for each place.
+    [[nodiscard]] QStringList losses() const { return m_file->losses(); }
+    /// Why the last open() or save() failed.
+    [[nodiscard]] DocumentFile::Error error() const { return m_error; }
+    /// The same in words for the person.
+    [[nodiscard]] QString errorText() const { return m_errorText; }
 
     /// Makes one step of all that was changed since the last one, if anything was. \a text completes "Undo"
     /// in the menu; when it is empty, the step is described by what changed. If only properties, variables,
@@ -62,15 +69,15 @@ Q_SIGNALS:
     void pathChanged(const QString &path);
 
 private:
-    [[nodiscard]] std::unique_ptr<TDcEntity> newRoot() const;
-    void replaceRoot(std::unique_ptr<TDcEntity> root);
-    void start(std::unique_ptr<TDcEntity> root, const QString &path);
-    void setPath(const QString &path);
+    [[nodiscard]] std::unique_ptr<DictionaryFile> newFile() const;
+    void announce(History::Extent extent, const std::function<void(TDcEntity &root)> &change);
+    void start(std::unique_ptr<DictionaryFile> file);
+    bool succeed(bool done, const DictionaryFile &file);
 
-    std::unique_ptr<TDcEntity> m_root;
-    QString m_path;
+    std::unique_ptr<DictionaryFile> m_file; // Never null.
+    DocumentFile::Error m_error = DocumentFile::Error::None;
+    QString m_errorText;
     bool m_changing = false; // The objects are not in a state to look at.
     QUndoStack m_undoStack;
     History m_history;
-    QString m_errorString;
 };

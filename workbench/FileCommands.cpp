@@ -134,13 +134,36 @@ bool FileCommands::saveAs()
 
 bool FileCommands::saveTo(const QString &path)
 {
-    if (!m_workspace.document->save(path)) {
-        showError(tr("“%1” cannot be saved.").arg(QDir::toNativeSeparators(path)));
-        return false;
+    DocumentFile::SaveOptions options;
+    while (!m_workspace.document->save(path, options)) {
+        const DocumentFile::SaveOptions more = confirmSaving();
+        if ((options | more) == options)
+            return false;
+        options |= more;
     }
     RecentFiles::add(path);
     rememberFolder(path);
     return true;
+}
+
+DocumentFile::SaveOptions FileCommands::confirmSaving()
+{
+    Document &document = *m_workspace.document;
+    const bool losing = document.error() == DocumentFile::Error::LosesContent;
+    if (!losing && document.error() != DocumentFile::Error::ChangedByOthers) {
+        showError(tr("“%1” cannot be saved.").arg(document.title()));
+        return {};
+    }
+    QMessageBox box(QMessageBox::Warning, tr("Save"), document.errorText(), QMessageBox::Cancel, m_workspace.window);
+    box.setTextFormat(Qt::PlainText);
+    if (losing)
+        box.setDetailedText(document.losses().join(u'\n'));
+    const QAbstractButton *yes = box.addButton(losing ? tr("Save Anyway") : tr("Overwrite"), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    if (box.clickedButton() != yes)
+        return {};
+    return losing ? DocumentFile::AcceptLosses : DocumentFile::OverwriteOthersChanges;
 }
 
 void FileCommands::revert()
@@ -163,6 +186,6 @@ void FileCommands::showError(const QString &text)
     QMessageBox box(QMessageBox::Critical, tr("Quillon Workbench"), text, QMessageBox::Ok,
                     m_workspace.window);
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(m_workspace.document->errorString());
+    box.setInformativeText(m_workspace.document->errorText());
     box.exec();
 }

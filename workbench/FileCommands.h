@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/DocumentFile.h"
 #include "workbench/RecentFiles.h"
 #include "workbench/Workspace.h"
 
@@ -27,6 +28,8 @@ private:
     bool save();
     bool saveAs();
     bool saveTo(const QString &path);
+    /// Asks whether to save in spite of what hinders it, or says that it cannot be done.
+    [[nodiscard]] DocumentFile::SaveOptions confirmSaving();
     void revert();
     void addRecentMenu();
     void showError(const QString &text);

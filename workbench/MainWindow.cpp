@@ -7,6 +7,7 @@
 #include "workbench/panels/ProblemsPanel.h"
 #include "workbench/panels/SourcesPanel.h"
 #include "workbench/panels/VariableTablePanel.h"
+#include "workbench/SourceCommands.h"
 #include "workbench/Workspace.h"
 
 #include <QAction>
@@ -69,6 +70,7 @@ void MainWindow::addPanels()
     QDockWidget *inspector =
         addDock(tr("Variable"), u"variable"_s, new Inspector(workspace, this), Qt::RightDockWidgetArea);
     auto *sourcesPanel = new SourcesPanel(workspace, this);
+    new SourceCommands(workspace, sourcesPanel, this);
     connect(sourcesPanel, &SourcesPanel::chosen, table, &VariableTablePanel::importFields);
     QDockWidget *sources = addDock(tr("Sources"), u"sources"_s, sourcesPanel, Qt::BottomDockWidgetArea);
     QDockWidget *problems =

@@ -50,7 +50,7 @@ int main(int argc, char *argv[])
         // A picture shows the layout that everybody starts with, and asks nobody anything.
         window.setPlainLayout();
         if (!line.file.isEmpty() && !window.document()->open(line.file))
-            return fail(line.file + u": "_s + window.document()->errorString());
+            return fail(line.file + u": "_s + window.document()->errorText());
     }
     if (!line.size.isEmpty())
         window.resize(line.size);

@@ -98,13 +98,13 @@ void TestDocument::savesAndOpens()
     Document document;
     document.edit(u"adding"_s,
                   [&document] { document.root()->addVariables(makeVariable(u"AGE"_s, {}, u"Age"_s)); });
-    QVERIFY2(document.save(path), qPrintable(document.errorString()));
+    QVERIFY2(document.save(path), qPrintable(document.errorText()));
     QVERIFY(!document.isModified());
     QCOMPARE(document.path(), path);
     QCOMPARE(document.title(), u"census.mvdb"_s);
 
     Document other;
-    QVERIFY2(other.open(path), qPrintable(other.errorString()));
+    QVERIFY2(other.open(path), qPrintable(other.errorText()));
     QCOMPARE(other.root()->getVariables()->size(), 1);
     QCOMPARE(other.root()->getVariables()->first()->getLabel(), u"Age"_s);
     QVERIFY(!other.isModified());
@@ -135,7 +135,7 @@ void TestDocument::staysAsItIsWhenOpeningFails()
     document.root()->setLabel(u"Census"_s);
     document.commit(u"label"_s);
     QVERIFY(!document.open(file.fileName()));
-    QVERIFY(!document.errorString().isEmpty());
+    QVERIFY(!document.errorText().isEmpty());
     QVERIFY(!document.open(folder.filePath(u"missing.mvdb"_s)));
     QCOMPARE(document.root(), root);
     QVERIFY(document.isModified());

@@ -5,6 +5,7 @@
 #include "model/TDcVariable.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace
 {
@@ -39,6 +40,25 @@ TDcEntity *Places::entityOf(TDcEntity *root, const TDcVariable *variable)
     return firstEntity(root, [variable](const TDcEntity *candidate) {
         return std::any_of(candidate->getVariables()->cbegin(), candidate->getVariables()->cend(),
                            [variable](const TDcVariable *member) { return member == variable; });
+    });
+}
+
+QList<qsizetype> Places::rowsOf(TDcEntity *root, const TDcEntity *entity)
+{
+    QList<qsizetype> rows;
+    for (const TDcEntity *node = entity; node != root;) {
+        TDcEntity *parent = parentOf(root, node);
+        Q_ASSERT(parent);
+        rows.prepend(parent->getChildren()->indexOf(node));
+        node = parent;
+    }
+    return rows;
+}
+
+TDcEntity *Places::at(TDcEntity *root, const QList<qsizetype> &rows)
+{
+    return std::accumulate(rows.cbegin(), rows.cend(), root, [](const TDcEntity *node, qsizetype row) {
+        return node->getChildren()->at(row);
     });
 }
 

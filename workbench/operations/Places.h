@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 class TDcEntity;
@@ -14,6 +15,11 @@ namespace Places
 [[nodiscard]] TDcEntity *parentOf(TDcEntity *root, const TDcEntity *entity);
 /// The entity whose variable \a variable is; null when there is none.
 [[nodiscard]] TDcEntity *entityOf(TDcEntity *root, const TDcVariable *variable);
+
+/// Where \a entity stands: rows from \a root, which has none, down.
+[[nodiscard]] QList<qsizetype> rowsOf(TDcEntity *root, const TDcEntity *entity);
+/// The entity at \a rows below \a root.
+[[nodiscard]] TDcEntity *at(TDcEntity *root, const QList<qsizetype> &rows);
 
 /// The first entity called \a name, in pre-order; null when there is none.
 [[nodiscard]] TDcEntity *findEntity(TDcEntity *root, const QString &name);

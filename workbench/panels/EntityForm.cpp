@@ -6,6 +6,7 @@
 #include "workbench/Document.h"
 #include "workbench/operations/EntityEdits.h"
 #include "workbench/panels/PropertyForm.h"
+#include "workbench/panels/Widgets.h"
 #include "workbench/proxies/RealRowProxy.h"
 #include "workbench/Selection.h"
 
@@ -13,7 +14,6 @@
 #include <QCompleter>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScrollArea>
 #include <QStringListModel>
 #include <QVBoxLayout>
 
@@ -21,13 +21,9 @@ EntityForm::EntityForm(const Workspace &workspace, QWidget *parent)
     : QWidget(parent), m_workspace(workspace), m_form(new PropertyForm), m_names(new QStringListModel(this))
 {
     build();
-    auto *scroller = new QScrollArea(this);
-    scroller->setWidget(m_form);
-    scroller->setWidgetResizable(true);
-    scroller->setFrameShape(QFrame::NoFrame);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(scroller);
+    column->addWidget(Widgets::scrolled(m_form, this));
 
     connect(m_form, &PropertyForm::edited, this, [this] { m_workspace.document->commit({}, m_entity); });
     connect(workspace.selection, &Selection::entityChanged, this, &EntityForm::showEntity);
@@ -66,10 +62,10 @@ void EntityForm::build()
     m_form->addRow(tr("Weight"),
                    offerVariables(m_form->text(tr("Weight variable"), get<&E::getWeightVariable>(),
                                                set<&E::setWeightVariable, QString>())));
-    m_form->addRow({}, m_form->check(tr("Selectable"), get<&E::getSelectable>(), [this](bool selectable) {
-        EntityEdits::setSelectable(m_entity, selectable);
-    }));
-    m_form->addRow({}, m_form->check(tr("Virtual"), get<&E::getIsvirtual>(), set<&E::setIsvirtual, bool>()));
+    m_form->addRow({},
+                   m_form->check(tr("Selectable"), get<&E::getSelectable>(),
+                                 [this](bool selectable) { EntityEdits::setSelectable(m_entity, selectable); }),
+                   {}, m_form->check(tr("Virtual"), get<&E::getIsvirtual>(), set<&E::setIsvirtual, bool>()));
     m_form->addRow(tr("Notes"),
                    m_form->longText(tr("Entity documentation"), get<&E::getDocumentationEntity>(),
                                     set<&E::setDocumentationEntity, QString>()));

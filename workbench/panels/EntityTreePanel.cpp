@@ -13,19 +13,14 @@
 #include "workbench/Selection.h"
 
 #include <QAction>
-#include <QHeaderView>
 #include <QTreeView>
 #include <QVBoxLayout>
 
 EntityTreePanel::EntityTreePanel(const Workspace &workspace, QWidget *parent)
     : QWidget(parent), m_workspace(workspace), m_view(new QTreeView(this)), m_proxy(new RealRowProxy(this))
 {
-    m_view->setAccessibleName(tr("Entities"));
-    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
-    m_view->setExpandsOnDoubleClick(false);
-    m_view->setUniformRowHeights(true);
+    Widgets::setUpTree(m_view, tr("Entities"));
     m_view->setModel(m_proxy);
-    m_view->header()->hide();
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
 
     auto *layout = new QVBoxLayout(this);

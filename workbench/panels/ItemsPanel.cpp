@@ -88,6 +88,8 @@ void ItemsPanel::showVariable()
     const QModelIndex before = m_view->currentIndex();
     const bool same = m_variable && m_variable == m_workspace.selection->variable();
     m_variable = m_workspace.selection->variable();
+    if (m_model)
+        m_header = m_view->horizontalHeader()->saveState();
     m_proxy->setSourceModel(nullptr);
     delete m_model;
     m_model = m_variable ? createModel(m_variable) : nullptr;
@@ -98,7 +100,10 @@ void ItemsPanel::showVariable()
             const QScopedValueRollback committing(m_committing, true);
             m_workspace.document->commit({}, m_workspace.selection->entity());
         });
-        m_view->setColumnWidth(0, 90);
+        if (m_header.isEmpty())
+            m_view->setColumnWidth(0, 90);
+        else
+            m_view->horizontalHeader()->restoreState(m_header);
         if (m_proxy->rowCount() > 0) {
             const int row = same ? qBound(0, before.row(), m_proxy->rowCount() - 1) : 0;
             m_view->setCurrentIndex(m_proxy->index(row, qMax(0, before.column())));

@@ -63,5 +63,6 @@ private:
     QSortFilterProxyModel *m_proxy;
     QAbstractItemModel *m_model = nullptr; // Owned by the panel.
     TDcVariable *m_variable = nullptr; // Not owned.
+    QByteArray m_header; // The columns as a person left them.
     bool m_committing = false; // An edit of the table itself is under way.
 };

@@ -1,5 +1,6 @@
 #include "workbench/panels/PropertyForm.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
@@ -63,7 +64,7 @@ QPlainTextEdit *PropertyForm::longText(const QString &name, Get<QString> get, Se
     auto *field = new QPlainTextEdit(this);
     field->setAccessibleName(name);
     field->setTabChangesFocus(true);
-    field->setMaximumHeight(field->fontMetrics().lineSpacing() * 4 + 12);
+    field->setMinimumHeight(field->fontMetrics().lineSpacing() * 3 + 12);
     field->installEventFilter(this);
     connect(this, &PropertyForm::focusLeft, field, [=, this](QObject *left) {
         if (left == field)
@@ -105,6 +106,7 @@ QComboBox *PropertyForm::choice(const QString &name, const QList<QString> &choic
 {
     auto *field = new QComboBox(this);
     field->setAccessibleName(name);
+    field->view()->setAccessibleName(name);
     field->setEditable(true);
     field->setInsertPolicy(QComboBox::NoInsert);
     field->addItems(choices);

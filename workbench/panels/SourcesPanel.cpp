@@ -7,6 +7,7 @@
 #include "workbench/Actions.h"
 #include "workbench/panels/SourceTab.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QMimeData>
@@ -33,14 +34,19 @@ SourcesPanel::SourcesPanel(const Workspace &workspace, QWidget *parent)
 {
     const Actions &actions = *workspace.actions;
     QAction *append = actions[ActionId::SourceAppend];
-    m_dataset = new SourceTab(tr("Dataset fields"), new VariablesDatasetProxyModel(nullptr), {append}, this);
-    m_csv = new SourceTab(tr("CSV fields"), new QSortFilterProxyModel, {append}, this);
-    m_lookups = new SourceTab(tr("Lookups"), new QSortFilterProxyModel, {append}, this);
+    m_dataset = new SourceTab(tr("Dataset fields"), new VariablesDatasetProxyModel(nullptr),
+                              {actions[ActionId::SourceOpenDataset], append}, this);
+    m_csv = new SourceTab(tr("CSV fields"), new QSortFilterProxyModel,
+                          {actions[ActionId::SourceOpenCsv], append}, this);
+    m_lookups = new SourceTab(tr("Lookups"), new QSortFilterProxyModel,
+                              {actions[ActionId::SourceOpenLookups], append}, this);
     m_dataset->addControl(m_record);
     m_record->setAccessibleName(tr("Record"));
+    m_record->view()->setAccessibleName(tr("Record"));
     m_record->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_record->hide();
     m_tabs->setDocumentMode(true);
+    m_tabs->setAccessibleName(tr("Sources"));
     m_tabs->addTab(m_dataset, tr("Dataset"));
     m_tabs->addTab(m_csv, tr("CSV"));
     m_tabs->addTab(m_lookups, tr("Lookups"));

@@ -6,6 +6,7 @@
 #include "models/VariableDiccionaryModel.h"
 #include "workbench/Document.h"
 #include "workbench/panels/PropertyForm.h"
+#include "workbench/panels/Widgets.h"
 #include "workbench/Selection.h"
 
 #include <QCheckBox>
@@ -13,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScrollArea>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -31,17 +31,12 @@ VariableForm::VariableForm(const Workspace &workspace, QWidget *parent)
 {
     build();
     buildLayout();
-    auto *scroller = new QScrollArea(this);
-    scroller->setWidget(m_form);
-    scroller->setWidgetResizable(true);
-    scroller->setFrameShape(QFrame::NoFrame);
-    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *nothing = new QLabel(tr("Select a variable to see its properties."), this);
     nothing->setAlignment(Qt::AlignCenter);
     nothing->setWordWrap(true);
     nothing->setForegroundRole(QPalette::PlaceholderText);
     m_pages->addWidget(nothing);
-    m_pages->addWidget(scroller);
+    m_pages->addWidget(Widgets::scrolled(m_form, this));
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_pages);
@@ -114,9 +109,6 @@ void VariableForm::build()
         m_form->number(tr("Missing-value code"), get<&V::getMissing>(), set<&V::setMissing, int>()),
         tr("Not appl."),
         m_form->number(tr("Not-applicable code"), get<&V::getNotappl>(), set<&V::setNotappl, int>()));
-    m_form->addRow(tr("&Notes"),
-                   m_form->longText(tr("Documentation"), get<&V::getDocumentation>(),
-                                    set<&V::setDocumentation, QString>()));
 }
 
 void VariableForm::buildLayout()
@@ -141,9 +133,11 @@ void VariableForm::buildLayout()
     m_form->addRow(tr("File name"),
                    m_form->text(tr("File name"), get<&V::getFileName>(), set<&V::setFileName, QString>()));
     m_form->addRow({},
-                   m_form->check(tr("Values from a lookup table"), getLayout<&M::getLookup>(),
-                                 setLayout<&M::setLookup, bool>()));
-    m_form->addRow({}, m_form->check(tr("Local variable"), get<&V::getLocal>(), set<&V::setLocal, bool>()));
+                   m_form->check(tr("Lookup"), getLayout<&M::getLookup>(), setLayout<&M::setLookup, bool>()),
+                   {}, m_form->check(tr("Local"), get<&V::getLocal>(), set<&V::setLocal, bool>()));
+    m_form->addRow(tr("&Notes"),
+                   m_form->longText(tr("Documentation"), get<&V::getDocumentation>(),
+                                    set<&V::setDocumentation, QString>()));
 }
 
 void VariableForm::showVariable()

@@ -26,6 +26,12 @@ struct Role {
     VariableEdits::Role role;
 };
 
+/// \a one with the variable's name, or \a many with the number of variables.
+QString stepText(const QString &one, const QString &many, const QList<TDcVariable *> &variables)
+{
+    return variables.size() == 1 ? one.arg(variables.first()->getName()) : many.arg(variables.size());
+}
+
 constexpr Role roles[] = {{ActionId::VariableRefCode, VariableEdits::Role::RefCode},
                           {ActionId::VariableRefLabel, VariableEdits::Role::RefLabel},
                           {ActionId::VariableWeight, VariableEdits::Role::Weight}};
@@ -96,7 +102,7 @@ void VariableTablePanel::duplicateVariables()
     TDcEntity *entity = m_workspace.selection->entity();
     const QList<TDcVariable *> variables = m_workspace.selection->variables();
     QList<TDcVariable *> copies;
-    m_workspace.document->edit(tr("duplicating %n variable(s)", nullptr, int(variables.size())), [&] {
+    m_workspace.document->edit(stepText(tr("duplicating %1"), tr("duplicating %L1 variables"), variables), [&] {
         copies = VariableEdits::duplicate(m_workspace.document->root(), entity, variables);
     });
     m_filter->clear();
@@ -107,9 +113,7 @@ void VariableTablePanel::removeVariables()
 {
     TDcEntity *entity = m_workspace.selection->entity();
     const QList<TDcVariable *> variables = m_workspace.selection->variables();
-    const QString text = variables.size() == 1
-        ? tr("removing %1").arg(variables.first()->getName())
-        : tr("removing %n variable(s)", nullptr, int(variables.size()));
+    const QString text = stepText(tr("removing %1"), tr("removing %L1 variables"), variables);
     m_workspace.document->edit(text, [&] { ListEdits::remove(*entity->getVariables(), variables); });
 }
 
@@ -117,7 +121,7 @@ void VariableTablePanel::moveVariables(bool up)
 {
     TDcEntity *entity = m_workspace.selection->entity();
     const QList<TDcVariable *> variables = m_workspace.selection->variables();
-    m_workspace.document->edit(tr("moving %n variable(s)", nullptr, int(variables.size())),
+    m_workspace.document->edit(stepText(tr("moving %1"), tr("moving %L1 variables"), variables),
                                [&] { ListEdits::move(*entity->getVariables(), variables, up); });
 }
 

@@ -46,6 +46,8 @@ VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *pare
     layout->addLayout(bar);
     layout->addWidget(m_view);
 
+    connect(m_view->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+            &VariableTablePanel::updateActions);
     connect(m_filter, &QLineEdit::textChanged, this, &VariableTablePanel::setFilter);
     connect(workspace.selection, &Selection::entityChanged, this, &VariableTablePanel::showEntity);
     connect(workspace.selection, &Selection::variablesChanged, this, &VariableTablePanel::showSelection);
@@ -66,6 +68,9 @@ VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *pare
 void VariableTablePanel::showEntity(TDcEntity *entity)
 {
     const QScopedValueRollback following(m_showing, true);
+    // A table without a model has no columns and so forgets how wide they were.
+    if (m_model)
+        m_header = m_view->horizontalHeader()->saveState();
     m_proxy->setSourceModel(nullptr);
     delete m_model;
     m_model = nullptr;
@@ -85,13 +90,15 @@ void VariableTablePanel::showEntity(TDcEntity *entity)
 
 void VariableTablePanel::arrangeColumns()
 {
-    if (std::exchange(m_arranged, true))
-        return;
     QHeaderView *header = m_view->horizontalHeader();
+    if (!m_header.isEmpty()) {
+        header->restoreState(m_header);
+        return;
+    }
     const int letter = fontMetrics().averageCharWidth();
-    const int widths[] = {20, 12, 30, 14, 8}; // In letters; the label takes what is left.
+    constexpr int letters[] = {22, 13, 30, 15, 9}; // The label takes what is left.
     for (int column = 0; column < header->count(); ++column)
-        header->resizeSection(column, widths[column] * letter);
+        header->resizeSection(column, letters[column] * letter);
     header->setSectionResizeMode(2, QHeaderView::Stretch);
 }
 
@@ -111,7 +118,8 @@ void VariableTablePanel::connectModel()
         if (fields == 0)
             return;
         TDcEntity *entity = m_workspace.selection->entity();
-        m_workspace.document->commit(tr("import of %n field(s)", nullptr, fields), entity);
+        m_workspace.document->commit(fields == 1 ? tr("import of a field") : tr("import of %L1 fields").arg(fields),
+                                     entity);
         TDcVariable *last = entity->getVariables()->isEmpty() ? nullptr : entity->getVariables()->last();
         m_workspace.selection->select(entity, last);
         showSelection();
@@ -186,6 +194,5 @@ void VariableTablePanel::updateCount()
 {
     const int all = m_model ? m_model->rowCount() : 0;
     const int shown = m_proxy->rowCount();
-    m_count->setText(shown == all ? tr("%n variable(s)", nullptr, all)
-                                  : tr("%1 of %n variable(s)", nullptr, all).arg(shown));
+    m_count->setText(shown == all ? tr("Variables: %L1").arg(all) : tr("Variables: %L1 of %L2").arg(shown).arg(all));
 }

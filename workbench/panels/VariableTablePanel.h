@@ -56,7 +56,7 @@ private:
     VariablesDictionaryProxyModel *m_proxy;
     VariableDiccionaryModel *m_model = nullptr; // Owned by the panel.
     int m_imported = 0; // Fields of the drop that is under way.
-    bool m_arranged = false; // The columns have their widths.
+    QByteArray m_header; // Widths and order of the columns as a person left them.
     bool m_committing = false; // An edit of the table itself is under way.
     bool m_showing = false; // The view follows the selection, not the other way round.
 };

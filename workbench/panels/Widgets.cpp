@@ -5,9 +5,27 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QToolButton>
+#include <QTreeView>
+
+namespace
+{
+/// Gives the rows of a tree the height that rows of tables have.
+class RoomyRows : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 6);
+    }
+};
+} // namespace
 
 QToolButton *Widgets::button(QAction *action, QWidget *parent)
 {
@@ -30,6 +48,17 @@ QLineEdit *Widgets::filterField(const QString &name, const QString &placeholder,
     return field;
 }
 
+QWidget *Widgets::scrolled(QWidget *form, QWidget *parent)
+{
+    auto *area = new QScrollArea(parent);
+    area->setWidget(form);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    return area;
+}
+
 void Widgets::setUpTable(QTableView *table, const QString &name)
 {
     table->setAccessibleName(name);
@@ -50,6 +79,17 @@ void Widgets::setUpTable(QTableView *table, const QString &name)
     table->horizontalHeader()->setSortIndicatorClearable(true);
     table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     table->setSortingEnabled(true);
+}
+
+void Widgets::setUpTree(QTreeView *tree, const QString &name)
+{
+    tree->setAccessibleName(name);
+    tree->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
+    tree->setExpandsOnDoubleClick(false);
+    tree->setUniformRowHeights(true);
+    tree->setItemDelegate(new RoomyRows(tree));
+    tree->setIndentation(16);
+    tree->header()->hide();
 }
 
 void Widgets::bindKey(QAbstractItemView *view, const QKeySequence &key, QAction *action)

@@ -1,38 +1,60 @@
 #include "workbench/undo/History.h"
 
 #include "documents/DictionaryCopy.h"
-#include "documents/DictionaryEquality.h"
 #include "model/TDcEntity.h"
+#include "workbench/operations/Places.h"
 
 #include <QUndoCommand>
 #include <QUndoStack>
 
-/// One step of the person. Neighbouring steps share the snapshot between them.
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+History::Extent extentOf(const QList<DictionaryChange> &changes)
+{
+    using What = DictionaryChange::What;
+    using Kind = DictionaryChange::Kind;
+    const bool structure = std::any_of(changes.cbegin(), changes.cend(), [](const DictionaryChange &change) {
+        return (change.what == What::Entity || change.what == What::Variable) && change.kind != Kind::Changed
+            && change.kind != Kind::Renamed;
+    });
+    return structure ? History::Extent::Structure : History::Extent::Content;
+}
+} // namespace
+
+/// One step of the person.
 class History::Step : public QUndoCommand
 {
 public:
-    Step(History &history, Snapshot before, Snapshot after, const QString &text)
-        : QUndoCommand(text), m_history(history), m_before(std::move(before)), m_after(std::move(after))
+    Step(History &history, DictionaryDifference difference, Rows rows, Extent extent, const QString &text)
+        : QUndoCommand(text),
+          m_history(history),
+          m_difference(std::move(difference)),
+          m_rows(std::move(rows)),
+          m_extent(extent)
     {
     }
 
-    void undo() override { m_history.go(m_before); }
+    void undo() override { m_history.go(m_difference.inverted(), m_rows, m_extent); }
 
     void redo() override
     {
         // The first time the step is what the person just did.
         if (std::exchange(m_done, true))
-            m_history.go(m_after);
+            m_history.go(m_difference, m_rows, m_extent);
     }
 
 private:
     History &m_history;
-    Snapshot m_before;
-    Snapshot m_after;
+    DictionaryDifference m_difference;
+    Rows m_rows;
+    Extent m_extent;
     bool m_done = false;
 };
 
-History::History(QUndoStack *stack, Replace replace) : m_stack(stack), m_replace(std::move(replace)) { }
+History::History(QUndoStack *stack, Announce announce) : m_stack(stack), m_announce(std::move(announce)) { }
 
 History::~History() = default;
 
@@ -42,17 +64,43 @@ void History::start(const TDcEntity &root)
     m_shadow = DictionaryCopy::copy(root);
 }
 
-bool History::record(const TDcEntity &root, const QString &text)
+bool History::record(TDcEntity &root, const QString &text, TDcEntity *entity)
 {
-    if (DictionaryEquality::equal(*m_shadow, root))
+    using Scope = DictionaryDifference::Scope;
+    const Rows rows = entity ? Places::rowsOf(&root, entity) : Rows();
+    TDcEntity *before = Places::at(m_shadow.get(), rows);
+    const auto difference = entity ? DictionaryDifference::between(*before, *entity, Scope::WithoutChildren)
+                                   : DictionaryDifference::between(*before, root);
+    if (difference.isEmpty())
         return false;
-    const Snapshot before = std::exchange(m_shadow, DictionaryCopy::copy(root));
-    m_stack->push(new Step(*this, before, m_shadow, text));
+    const QList<DictionaryChange> changes = difference.changes();
+    difference.apply(*before);
+    m_stack->push(new Step(*this, difference, rows, extentOf(changes), text.isEmpty() ? describe(changes) : text));
     return true;
 }
 
-void History::go(const Snapshot &snapshot)
+void History::go(const DictionaryDifference &difference, const Rows &rows, Extent extent)
 {
-    m_shadow = snapshot;
-    m_replace(DictionaryCopy::copy(*snapshot));
+    // What views may still show is deleted only when they have heard of it.
+    DictionaryDifference::Removed removed;
+    m_announce(extent, [&difference, &rows, &removed](TDcEntity &root) {
+        difference.apply(*Places::at(&root, rows), &removed);
+    });
+    difference.apply(*Places::at(m_shadow.get(), rows));
+}
+
+QString History::describe(const QList<DictionaryChange> &changes)
+{
+    if (changes.size() != 1)
+        return tr("%L1 changes").arg(changes.size());
+    const DictionaryChange &change = changes.first();
+    const QString name = change.path.section(u'/', -1);
+    switch (change.kind) {
+    case DictionaryChange::Kind::Renamed:
+        return tr("rename of %1").arg(name);
+    case DictionaryChange::Kind::Changed:
+        return tr("%1 of %2", "a property and what has it").arg(change.property, name);
+    default:
+        return tr("change of %1").arg(name);
+    }
 }

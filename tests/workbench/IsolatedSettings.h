@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QSettings>
+#include <QTemporaryDir>
+
+/// Keeps the settings of a test in a folder of its own, which goes with it.
+class IsolatedSettings
+{
+public:
+    IsolatedSettings()
+    {
+        QCoreApplication::setOrganizationName(QStringLiteral("Quillon"));
+        QCoreApplication::setApplicationName(QStringLiteral("test"));
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
+    }
+
+private:
+    QTemporaryDir m_folder;
+};

@@ -1,0 +1,202 @@
+#include "tests/support/MessageBoxAnswer.h"
+#include "tests/support/Trees.h"
+#include "tests/workbench/IsolatedSettings.h"
+#include "workbench/FileCommands.h"
+#include "workbench/MainWindow.h"
+#include "workbench/operations/Places.h"
+#include "workbench/panels/EntityTreePanel.h"
+#include "workbench/panels/VariableTablePanel.h"
+
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QAction>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QTableView>
+#include <QTest>
+#include <QTreeView>
+#include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void worksByKeyboardAlone();
+    void namesTheStepInTheMenu();
+    void asksBeforeWorkIsLost_data();
+    void asksBeforeWorkIsLost();
+    void opensADroppedFile();
+    void remembersFilesAndLayout();
+    void everyControlHasAnAccessibleName();
+    void shortcutsAreUnique();
+
+private:
+    [[nodiscard]] QString sample();
+
+    std::unique_ptr<IsolatedSettings> m_settings;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void TestMainWindow::initTestCase()
+{
+    qApp->setQuitOnLastWindowClosed(false);
+}
+
+void TestMainWindow::init()
+{
+    m_settings = std::make_unique<IsolatedSettings>();
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void TestMainWindow::cleanup()
+{
+    m_window.reset();
+    m_settings.reset();
+}
+
+QString TestMainWindow::sample()
+{
+    const QString path = m_folder->filePath(u"census.mvdb"_s);
+    Document document;
+    document.edit(u"adding"_s, [&document] {
+        document.root()->setName(u"CENSUS"_s);
+        document.root()->addVariables(makeVariable(u"SEX"_s));
+        document.root()->addVariables(makeVariable(u"AGE"_s));
+    });
+    return document.save(path) ? path : QString();
+}
+
+void TestMainWindow::worksByKeyboardAlone()
+{
+    QVERIFY(m_window->files()->open(sample()));
+    auto *table = m_window->findChild<VariableTablePanel *>();
+    table->view()->setFocus();
+    QTest::keyClick(table->view(), Qt::Key_Down);
+    QCOMPARE(m_window->selection()->variable()->getName(), u"AGE"_s);
+    QTest::keyClick(table->view(), Qt::Key_F2);
+    QWidget *editor = QApplication::focusWidget();
+    QVERIFY(qobject_cast<QLineEdit *>(editor));
+    QTest::keyClicks(editor, u"YEARS"_s);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_VERIFY(Places::findVariable(m_window->document()->root(), u"YEARS"_s));
+    QVERIFY(m_window->isWindowModified());
+
+    QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!m_window->isWindowModified());
+    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(Places::findVariable(m_window->document()->root(), u"AGE"_s));
+    QVERIFY(m_window->isWindowModified());
+
+    QTest::keyClick(m_window.get(), Qt::Key_L, Qt::ControlModifier);
+    QCOMPARE(QApplication::focusWidget(), table->filterField());
+}
+
+void TestMainWindow::namesTheStepInTheMenu()
+{
+    QVERIFY(m_window->files()->open(sample()));
+    auto *tree = m_window->findChild<EntityTreePanel *>();
+    QVERIFY(tree->view()->model()->setData(tree->view()->currentIndex(), u"SURVEY"_s, Qt::EditRole));
+    QCOMPARE((*m_window->actions())[ActionId::EditUndo]->text(), u"&Undo rename of CENSUS"_s);
+}
+
+void TestMainWindow::asksBeforeWorkIsLost_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<QString>("saved");
+    QTest::addRow("save") << u"Save"_s << true << u"Changed"_s;
+    QTest::addRow("discard") << u"Discard"_s << true << QString();
+    QTest::addRow("cancel") << u"Cancel"_s << false << QString();
+    QTest::addRow("escape") << QString() << false << QString();
+}
+
+void TestMainWindow::asksBeforeWorkIsLost()
+{
+    QFETCH(const QString, answer);
+    QFETCH(const bool, closes);
+    QFETCH(const QString, saved);
+    const QString path = sample();
+    QVERIFY(m_window->files()->open(path));
+    m_window->document()->root()->setLabel(u"Changed"_s);
+    m_window->document()->commit();
+    {
+        const MessageBoxAnswer box({answer});
+        QCOMPARE(m_window->close(), closes);
+        QCOMPARE(box.shown().size(), 1);
+        QCOMPARE(box.shown().first().defaultButton, u"Save"_s);
+    }
+    Document after;
+    QVERIFY(after.open(path));
+    QCOMPARE(after.root()->getLabel(), saved);
+}
+
+void TestMainWindow::opensADroppedFile()
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(sample())});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &drop);
+    QCOMPARE(m_window->windowTitle(), u"census.mvdb[*] – Quillon Workbench"_s);
+}
+
+void TestMainWindow::remembersFilesAndLayout()
+{
+    const QString path = sample();
+    QVERIFY(m_window->files()->open(path));
+    m_window->resize(1000, 650);
+    QVERIFY(m_window->close());
+    QCOMPARE(RecentFiles::paths(), QStringList({path}));
+    MainWindow next;
+    QCOMPARE(next.size(), QSize(1000, 650));
+}
+
+void TestMainWindow::everyControlHasAnAccessibleName()
+{
+    const QList<QWidget *> widgets = m_window->findChildren<QWidget *>();
+    QStringList nameless;
+    for (const QWidget *widget : widgets) {
+        const QWidget *parent = widget->parentWidget();
+        const bool inside = qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent);
+        if (widget->focusPolicy() == Qt::NoFocus || inside || widget->objectName().startsWith(u"qt_"_s))
+            continue;
+        const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget));
+        if (accessible && accessible->text(QAccessible::Name).isEmpty())
+            nameless.append(u"%1 in %2"_s.arg(QLatin1StringView(widget->metaObject()->className()),
+                                              QLatin1StringView(parent->metaObject()->className())));
+    }
+    QCOMPARE(nameless.join(u", "_s), QString());
+}
+
+void TestMainWindow::shortcutsAreUnique()
+{
+    QStringList keys;
+    const QList<QAction *> actions = m_window->actions()->all();
+    for (const QAction *action : actions) {
+        for (const QKeySequence &key : action->shortcuts())
+            keys.append(key.toString());
+    }
+    const qsizetype all = keys.size();
+    keys.removeDuplicates();
+    QCOMPARE(keys.size(), all);
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"

@@ -1,0 +1,230 @@
+#include "model/TDcSourceField.h"
+#include "models/DatasetPropertiesFieldsModel.h"
+#include "tests/workbench/Bench.h"
+#include "workbench/panels/VariableTablePanel.h"
+
+#include <QLineEdit>
+#include <QMimeData>
+#include <QTableView>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestVariableTablePanel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void showsTheVariablesOfTheEntity();
+    void renamesByKeyboard();
+    void filtersWithoutCase();
+    void importsFieldsInOneStep();
+    void selectsWhatIsClicked();
+    void addsAFreeName();
+    void removesAndKeepsANeighbourSelected();
+    void movesAndUndoes();
+    void doesNotMoveWhileSorted();
+    void duplicates();
+    void togglesRoles();
+    void keepsColumnWidths();
+    void alwaysHasACurrentIndex();
+
+private:
+    [[nodiscard]] QStringList shown() const;
+
+    std::unique_ptr<Bench> m_bench;
+    std::unique_ptr<VariableTablePanel> m_panel;
+};
+
+void TestVariableTablePanel::init()
+{
+    m_bench = std::make_unique<Bench>();
+    m_bench->selection.select(u"PERSON"_s);
+    m_panel = std::make_unique<VariableTablePanel>(m_bench->workspace());
+    m_panel->resize(700, 300);
+    m_panel->show();
+    m_panel->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_panel.get()));
+    m_panel->view()->setFocus();
+}
+
+void TestVariableTablePanel::cleanup()
+{
+    m_panel.reset();
+    m_bench.reset();
+}
+
+QStringList TestVariableTablePanel::shown() const
+{
+    QStringList names;
+    const QAbstractItemModel *model = m_panel->view()->model();
+    for (int row = 0; row < model->rowCount(); ++row)
+        names.append(model->index(row, 0).data().toString());
+    return names;
+}
+
+void TestVariableTablePanel::showsTheVariablesOfTheEntity()
+{
+    QCOMPARE(shown(), QStringList({u"SEX"_s, u"AGE"_s, u"WAGE"_s}));
+    m_bench->selection.select(u"DEATH"_s);
+    QCOMPARE(shown(), QStringList());
+}
+
+void TestVariableTablePanel::renamesByKeyboard()
+{
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    QTableView *view = m_panel->view();
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_F2);
+    auto *editor = view->findChild<QLineEdit *>();
+    QVERIFY(editor);
+    editor->selectAll();
+    QTest::keyClicks(editor, u"YEARS"_s);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_COMPARE(m_bench->variables(), QStringList({u"SEX"_s, u"YEARS"_s, u"WAGE"_s}));
+    QCOMPARE(m_bench->undoText(), u"rename of AGE"_s);
+
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(shown(), QStringList({u"SEX"_s, u"AGE"_s, u"WAGE"_s}));
+    QCOMPARE(m_bench->selection.variable()->getName(), u"AGE"_s);
+}
+
+void TestVariableTablePanel::filtersWithoutCase()
+{
+    QTest::keyClicks(m_panel->filterField(), u"monthly"_s);
+    QCOMPARE(shown(), QStringList({u"WAGE"_s}));
+    m_panel->filterField()->setText(u"p03"_s);
+    QCOMPARE(shown(), QStringList({u"AGE"_s}));
+    QCOMPARE(m_bench->selection.variable()->getName(), u"AGE"_s);
+    m_panel->filterField()->setText(u"(no such"_s);
+    QCOMPARE(shown(), QStringList());
+    m_panel->filterField()->clear();
+    QCOMPARE(shown().size(), 3);
+}
+
+void TestVariableTablePanel::importsFieldsInOneStep()
+{
+    QList<TDcSourceField *> fields;
+    for (const QString &name : {u"HEIGHT"_s, u"WEIGHT"_s, u"EYES"_s}) {
+        fields.append(new TDcSourceField);
+        fields.last()->name = name;
+    }
+    const DatasetPropertiesFieldsModel source(nullptr, &fields, u"*"_s);
+    const std::unique_ptr<QMimeData> payload(
+        source.mimeData({source.index(0, 0), source.index(1, 0), source.index(2, 0)}));
+    m_panel->importFields(payload.get());
+
+    QCOMPARE(m_bench->variables().size(), 6);
+    QCOMPARE(m_bench->document.undoStack()->count(), 1);
+    QCOMPARE(m_bench->undoText(), u"import of 3 fields"_s);
+    QCOMPARE(m_bench->selection.variable()->getName(), u"EYES"_s);
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(shown().size(), 3);
+    m_bench->document.undoStack()->redo();
+    QCOMPARE(shown().mid(3), QStringList({u"HEIGHT"_s, u"WEIGHT"_s, u"EYES"_s}));
+    qDeleteAll(fields);
+}
+
+void TestVariableTablePanel::selectsWhatIsClicked()
+{
+    QTableView *view = m_panel->view();
+    const QModelIndex wage = view->model()->index(2, 2);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(wage).center());
+    QCOMPARE(m_bench->selection.variable()->getName(), u"WAGE"_s);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      view->visualRect(view->model()->index(0, 0)).center());
+    QCOMPARE(m_bench->selection.variables().size(), 2);
+    QCOMPARE(m_bench->selection.variables().first()->getName(), u"SEX"_s);
+}
+
+void TestVariableTablePanel::addsAFreeName()
+{
+    QAction *add = m_bench->actions[ActionId::VariableAdd];
+    add->trigger();
+    add->trigger();
+    QCOMPARE(m_bench->variables().mid(3), QStringList({u"VARIABLE"_s, u"VARIABLE_2"_s}));
+    QCOMPARE(m_bench->selection.variable()->getName(), u"VARIABLE_2"_s);
+    QCOMPARE(m_bench->undoText(), u"adding VARIABLE_2"_s);
+}
+
+void TestVariableTablePanel::removesAndKeepsANeighbourSelected()
+{
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    QTest::keyClick(m_panel->view(), Qt::Key_Delete);
+    QCOMPARE(m_bench->variables(), QStringList({u"SEX"_s, u"WAGE"_s}));
+    QCOMPARE(m_bench->selection.variable()->getName(), u"WAGE"_s);
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(shown(), QStringList({u"SEX"_s, u"AGE"_s, u"WAGE"_s}));
+}
+
+void TestVariableTablePanel::movesAndUndoes()
+{
+    m_bench->selection.select(u"PERSON/WAGE"_s);
+    QVERIFY(!m_bench->actions[ActionId::VariableMoveDown]->isEnabled());
+    m_bench->actions[ActionId::VariableMoveUp]->trigger();
+    QCOMPARE(shown(), QStringList({u"SEX"_s, u"WAGE"_s, u"AGE"_s}));
+    QCOMPARE(m_bench->selection.variable()->getName(), u"WAGE"_s);
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(shown(), QStringList({u"SEX"_s, u"AGE"_s, u"WAGE"_s}));
+}
+
+void TestVariableTablePanel::doesNotMoveWhileSorted()
+{
+    m_bench->selection.select(u"PERSON/WAGE"_s);
+    m_panel->view()->sortByColumn(0, Qt::AscendingOrder);
+    QCOMPARE(shown(), QStringList({u"AGE"_s, u"SEX"_s, u"WAGE"_s}));
+    QVERIFY(!m_bench->actions[ActionId::VariableMoveUp]->isEnabled());
+    m_panel->view()->sortByColumn(-1, Qt::AscendingOrder);
+    QVERIFY(m_bench->actions[ActionId::VariableMoveUp]->isEnabled());
+}
+
+void TestVariableTablePanel::duplicates()
+{
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    m_bench->actions[ActionId::VariableDuplicate]->trigger();
+    QCOMPARE(m_bench->variables().last(), u"AGE_2"_s);
+    QCOMPARE(m_bench->selection.variable()->getLabel(), u"Age"_s);
+    QCOMPARE(m_bench->selection.variable()->getAlias(), QString());
+}
+
+void TestVariableTablePanel::togglesRoles()
+{
+    m_bench->selection.select(u"PERSON/SEX"_s);
+    QAction *code = m_bench->actions[ActionId::VariableRefCode];
+    code->trigger();
+    QCOMPARE(m_bench->selection.entity()->getRefCode(), u"SEX"_s);
+    QVERIFY(code->isChecked());
+    m_bench->selection.entity()->setSelectable(true);
+    m_bench->document.commit();
+    code->trigger();
+    QCOMPARE(m_bench->selection.entity()->getRefCode(), QString());
+    QVERIFY(!m_bench->selection.entity()->getSelectable());
+    m_bench->document.undoStack()->undo();
+    QVERIFY(code->isChecked());
+    QVERIFY(m_bench->selection.entity()->getSelectable());
+}
+
+void TestVariableTablePanel::keepsColumnWidths()
+{
+    m_panel->view()->setColumnWidth(0, 123);
+    m_bench->selection.select(u"DEATH"_s);
+    m_bench->selection.select(u"PERSON"_s);
+    m_bench->actions[ActionId::VariableRemove]->trigger();
+    QCOMPARE(m_panel->view()->columnWidth(0), 123);
+}
+
+void TestVariableTablePanel::alwaysHasACurrentIndex()
+{
+    QVERIFY(m_panel->view()->currentIndex().isValid());
+    m_bench->selection.select(u"DEATH"_s);
+    m_bench->selection.select(u"PERSON"_s);
+    QVERIFY(m_panel->view()->currentIndex().isValid());
+    m_bench->document.edit(u"nothing"_s, [] {});
+    QVERIFY(m_panel->view()->currentIndex().isValid());
+}
+
+QTEST_MAIN(TestVariableTablePanel)
+#include "tst_variabletablepanel.moc"
