@@ -57,6 +57,7 @@ private Q_SLOTS:
         QCOMPARE(columnTexts(m_proxy), (QStringList{u"10"_s, u"-1"_s, u"9"_s}));
         m_proxy.setFilterRegularExpression(u"^9"_s);
         QCOMPARE(columnTexts(m_proxy), QStringList{u"9"_s});
+        m_proxy.setFilterRegularExpression(QString());
         m_proxy.setSourceModel(nullptr);
     }
 

@@ -38,7 +38,7 @@ inline void setColumn(QStandardItemModel &model, int column, const QVariantList 
     setColumn(source, column, values);
     proxy.setSourceModel(&source);
     proxy.sort(column);
-    const QStringList texts = columnTexts(proxy, column);
+    QStringList texts = columnTexts(proxy, column);
     proxy.setSourceModel(nullptr);
     return texts;
 }
