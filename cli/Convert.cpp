@@ -3,33 +3,18 @@
 #include "cli/Failure.h"
 #include "cli/Output.h"
 #include "cli/RoundTrip.h"
+#include "cli/Target.h"
 #include "cli/Text.h"
 
 #include <CLI/CLI.hpp>
-#include <QFileInfo>
 #include <QSaveFile>
 
-#include <filesystem>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-/// Refuses what a saved file would take the place of: the document itself, by whatever name, and anything
-/// that is no regular file.
-void checkTarget(const QString &in, const QString &out)
-{
-    const QFileInfo target(out);
-    if (target.isDir())
-        throw Cli::Failure(u"%1: is a directory, not a file"_s.arg(out));
-    std::error_code error;
-    if (std::filesystem::equivalent(QFileInfo(in).filesystemFilePath(), target.filesystemFilePath(), error))
-        throw Cli::Failure(u"%1 and %2 are the same file"_s.arg(in, out));
-    if (target.exists() && !target.isFile())
-        throw Cli::Failure(u"%1: is not a regular file"_s.arg(out));
-}
-
 void save(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);
@@ -53,6 +38,10 @@ void addConvert(CLI::App &app, Output &output, int &status)
     verb->add_option("IN", options->in, "The dictionary document to read")->required();
     verb->add_option("OUT", options->out, "The file to write")->required();
     verb->add_flag("--lossy", options->lossy, "Write the file even if something is lost");
+    verb->footer("Examples:\n"
+                 "  quillon convert survey.mvdb copy.mvdb\n"
+                 "  quillon convert --lossy survey.mvdb copy.mvdb\n"
+                 "Ends with status 1 and writes nothing if something would be lost.");
     verb->callback([options, &output, &status] {
         const bool written = convert(QString::fromStdString(options->in),
                                      QString::fromStdString(options->out), options->lossy, output);

@@ -2,6 +2,7 @@
 
 #include "business/ProcessDictionaryBusiness.h"
 #include "cli/Failure.h"
+#include "documents/DictionaryFile.h"
 #include "model/TDcEntity.h"
 
 #include <QFile>
@@ -124,6 +125,16 @@ QJsonObject writeEntities(const Entities &entities, const DictionaryDocument &or
     }
     // Always a list: an entity on its own would lose its weight variable when it is read the next time.
     return original.rootKey.isEmpty() ? written.first().toObject() : QJsonObject{{original.rootKey, written}};
+}
+
+std::unique_ptr<DictionaryFile> openDictionary(const QString &path)
+{
+    auto file = std::make_unique<DictionaryFile>();
+    if (file->open(path))
+        return file;
+    // Only some of its messages name the file.
+    const bool named = file->error() == DocumentFile::Error::CannotRead;
+    throw Failure(named ? file->errorText() : u"%1: %2"_s.arg(path, file->errorText()));
 }
 
 TextPosition textPosition(const QByteArray &text, qsizetype offset)

@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+class DictionaryFile;
 class TDcEntity;
 
 namespace Cli
@@ -28,6 +29,10 @@ struct DictionaryDocument {
 
 /// The document that holds \a entities where \a original holds its own, written through the layer.
 [[nodiscard]] QJsonObject writeEntities(const Entities &entities, const DictionaryDocument &original);
+
+/// Opens the dictionary file at \a path so that nothing in it gets lost, and reads the whole tree. Throws
+/// Failure, also when the file has more than one root.
+[[nodiscard]] std::unique_ptr<DictionaryFile> openDictionary(const QString &path);
 
 /// A place in a text file; both count from 1. A column is a character, however many bytes it takes.
 struct TextPosition {

@@ -5,25 +5,33 @@
 #include <algorithm>
 #include <limits>
 #include <numeric>
+#include <utility>
 #include <vector>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
 constexpr int mostMatches = 3;
 constexpr int none = std::numeric_limits<int>::max();
 
-/// The number of letters to change, add or leave out.
+/// The number of letters to change, add, leave out or exchange with the next.
 int editDistance(const QString &left, const QString &right)
 {
+    std::vector<int> before;
     std::vector<int> row(right.size() + 1);
     std::iota(row.begin(), row.end(), 0);
     for (qsizetype i = 0; i < left.size(); ++i) {
-        int diagonal = std::exchange(row[0], int(i) + 1);
+        std::vector<int> next(row.size(), int(i) + 1);
         for (qsizetype j = 0; j < right.size(); ++j) {
-            const int change = diagonal + (left.at(i) != right.at(j));
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({change, row[j] + 1, row[j + 1] + 1});
+            const int change = row[j] + (left.at(i) != right.at(j));
+            next[j + 1] = std::min({change, next[j] + 1, row[j + 1] + 1});
+            const bool exchanged =
+                i > 0 && j > 0 && left.at(i) == right.at(j - 1) && left.at(i - 1) == right.at(j);
+            if (exchanged)
+                next[j + 1] = std::min(next[j + 1], before[j - 1] + 1);
         }
+        before = std::exchange(row, std::move(next));
     }
     return row.back();
 }
@@ -52,4 +60,10 @@ QStringList Cli::nearMatches(const QString &wanted, const QStringList &names)
         return std::pair(distances.value(left), left) < std::pair(distances.value(right), right);
     });
     return matches.first(std::min<qsizetype>(matches.size(), mostMatches));
+}
+
+QString Cli::didYouMean(const QString &wanted, const QStringList &names)
+{
+    const QStringList near = nearMatches(wanted, names);
+    return near.isEmpty() ? QString() : u"; did you mean \"%1\"?"_s.arg(near.join(u"\" or \""_s));
 }

@@ -4,6 +4,7 @@
 
 #include <QFileDevice>
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -41,6 +42,16 @@ QString Output::faint(const QString &text) const
 bool Output::coloursSuitStandardOutput()
 {
     return isatty(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
+}
+
+int Output::columnsOfStandardOutput()
+{
+    if (!isatty(STDOUT_FILENO))
+        return 0;
+    if (const int columns = qEnvironmentVariableIntValue("COLUMNS"); columns > 0)
+        return columns;
+    winsize size{};
+    return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
 }
 
 QString Output::styled(const QString &text, int style) const

@@ -10,8 +10,11 @@ namespace Cli
 class Output
 {
 public:
-    /// The device is not owned.
-    Output(QIODevice &device, bool colours) : m_device(device), m_colours(colours) { }
+    /// The device is not owned. \a columns is the width of the terminal, 0 when lines may have any length.
+    Output(QIODevice &device, bool colours, int columns = 0)
+        : m_device(device), m_colours(colours), m_columns(columns)
+    {
+    }
 
     /// Prints \a text and a line end; throws Failure when it cannot be written.
     void line(const QString &text = {});
@@ -23,6 +26,10 @@ public:
     [[nodiscard]] QString strong(const QString &text) const;
     [[nodiscard]] QString faint(const QString &text) const;
 
+    [[nodiscard]] int columns() const { return m_columns; }
+
+    /// The width of standard output: what COLUMNS says, or the terminal. 0 when it is no terminal.
+    [[nodiscard]] static int columnsOfStandardOutput();
     /// Whether colours suit standard output: a terminal that knows them, and no NO_COLOR in the environment.
     [[nodiscard]] static bool coloursSuitStandardOutput();
 
@@ -31,5 +38,6 @@ private:
 
     QIODevice &m_device;
     bool m_colours;
+    int m_columns;
 };
 } // namespace Cli

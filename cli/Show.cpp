@@ -38,9 +38,7 @@ QString unknownEntity(const QString &path, const QString &wanted, const QList<Cl
     QStringList names;
     for (const auto &shown : all)
         names.append(shown.entity->getName());
-    const QString message = u"%1: there is no entity \"%2\""_s.arg(path, wanted);
-    const QStringList near = Cli::nearMatches(wanted, names);
-    return near.isEmpty() ? message : message + u"; did you mean \"%1\"?"_s.arg(near.join(u"\" or \""_s));
+    return u"%1: there is no entity \"%2\""_s.arg(path, wanted) + Cli::didYouMean(wanted, names);
 }
 } // namespace
 
@@ -58,6 +56,10 @@ void addShow(CLI::App &app, Output &output)
     verb->add_option("FILE", options->file, "The dictionary document")->required();
     verb->add_option("--entity", options->entity, "Show only the entity with this name")->type_name("NAME");
     verb->add_flag("--json", options->json, "Print JSON for other programs");
+    verb->footer("Examples:\n"
+                 "  quillon show survey.mvdb\n"
+                 "  quillon show survey.mvdb --entity PERSON\n"
+                 "  quillon show survey.mvdb --json | jq '.entities[].name'");
     verb->callback([options, &output] {
         show(QString::fromStdString(options->file), QString::fromStdString(options->entity),
              options->json ? ShowForm::Json : ShowForm::Text, output);

@@ -15,7 +15,6 @@ using namespace Qt::Literals::StringLiterals;
 using Cli::Table;
 using Cli::Text::counted;
 using Cli::Text::printable;
-using Cli::Text::wrapped;
 
 namespace
 {
@@ -30,7 +29,7 @@ QString named(const QString &name)
     return name.isEmpty() ? u"(no name)"_s : printable(name);
 }
 
-QStringList cell(const QString &text)
+Table::Cell cell(const QString &text)
 {
     return {printable(text)};
 }
@@ -62,7 +61,7 @@ QString marks(const TDcEntity &entity)
 void printTree(const QList<Cli::ShownEntity> &entities, Cli::Output &output)
 {
     Table table({{u"Entity"_s},
-                 {u"Label"_s},
+                 {u"Label"_s, Table::Left, labelWidth},
                  {u"Level"_s, Table::Right},
                  {u"Reference code"_s},
                  {u"Reference label"_s},
@@ -76,8 +75,8 @@ void printTree(const QList<Cli::ShownEntity> &entities, Cli::Output &output)
         const bool hangs = below.contains(shown.parent);
         const Branch lines = hangs ? branch(shown, below.value(shown.parent)) : Branch();
         below.insert(&entity, lines.below);
-        table.addRow({{lines.own + named(entity.getName())},
-                      wrapped(printable(entity.getLabel()), labelWidth),
+        table.addRow({{Table::Line(lines.own, named(entity.getName()))},
+                      cell(entity.getLabel()),
                       {QString::number(entity.getLevel())},
                       cell(entity.getRefCode()),
                       cell(entity.getRefLabel()),
@@ -114,9 +113,9 @@ QString size(const TDcVariable &variable)
     return width == 0 ? decimals : QString::number(width) + decimals;
 }
 
-QStringList ranges(const TDcVariable &variable)
+Table::Cell ranges(const TDcVariable &variable)
 {
-    QStringList lines;
+    Table::Cell lines;
     if (const MetadataVariables *metadata = variable.getMetadataVariables()) {
         for (const Range *range : std::as_const(*metadata->getRange()))
             lines.append(u"%1 to %2"_s.arg(Cli::Text::number(range->getRangeMin()),
@@ -125,22 +124,23 @@ QStringList ranges(const TDcVariable &variable)
     return lines;
 }
 
-/// A line for each category; where a label goes on, it does so under itself.
-QStringList valueLabels(const TDcVariable &variable)
+int codeWidth(const TDcVariable &variable)
 {
     const QList<ValueLabelElement *> &elements = *variable.getValueLabelElementList();
-    const int codeWidth =
-        std::accumulate(elements.cbegin(), elements.cend(), 0, [](int width, const auto *element) {
-            return std::max(width, Cli::Text::width(printable(element->getValue())));
-        });
-    QStringList lines;
-    for (const ValueLabelElement *element : elements) {
+    return std::accumulate(elements.cbegin(), elements.cend(), 0, [](int width, const auto *element) {
+        return std::max(width, Cli::Text::width(printable(element->getValue())));
+    });
+}
+
+/// A line for each category.
+Table::Cell valueLabels(const TDcVariable &variable)
+{
+    const int width = codeWidth(variable);
+    Table::Cell lines;
+    for (const ValueLabelElement *element : std::as_const(*variable.getValueLabelElementList())) {
         const QString code = printable(element->getValue());
-        QString lead = QString(codeWidth - Cli::Text::width(code), u' ') + code + u"  "_s;
-        for (const QString &line : wrapped(printable(element->getLabel()), valuesWidth)) {
-            lines.append(lead + line);
-            lead.fill(u' ', codeWidth + 2);
-        }
+        const QString blanks(width - Cli::Text::width(code), u' ');
+        lines.append(Table::Line(blanks + code + u"  "_s, printable(element->getLabel())));
     }
     return lines;
 }
@@ -153,19 +153,19 @@ void printVariables(const TDcEntity &entity, Cli::Output &output)
     }
     Table table({{u"Variable"_s},
                  {u"Role"_s},
-                 {u"Group"_s},
-                 {u"Label"_s},
+                 {u"Group"_s, Table::Left, groupWidth},
+                 {u"Label"_s, Table::Left, labelWidth},
                  {u"Type"_s},
                  {u"Size"_s, Table::Right},
                  {u"Range"_s},
                  {u"Missing"_s, Table::Right},
                  {u"Not appl."_s, Table::Right},
-                 {u"Values"_s}});
+                 {u"Values"_s, Table::Left, valuesWidth}});
     for (const TDcVariable *variable : std::as_const(*entity.getVariables())) {
         table.addRow({{named(variable->getName())},
                       {role(entity, *variable)},
-                      wrapped(printable(variable->getGroup()), groupWidth),
-                      wrapped(printable(variable->getLabel()), labelWidth),
+                      cell(variable->getGroup()),
+                      cell(variable->getLabel()),
                       cell(variable->getVarType()),
                       {size(*variable)},
                       ranges(*variable),
@@ -197,7 +197,7 @@ void Cli::showAsText(const QString &path, const QList<ShownEntity> &entities, Ou
                     + (label.isEmpty() ? QString() : u"  "_s + label));
         if (const QString documentation = printable(entity->getDocumentationEntity());
             !documentation.isEmpty()) {
-            for (const QString &line : wrapped(documentation, documentationWidth))
+            for (const QString &line : Cli::Text::wrapped(documentation, documentationWidth))
                 output.line(line);
         }
         printVariables(*entity, output);

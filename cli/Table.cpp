@@ -6,15 +6,35 @@
 #include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
+using Cli::Table;
 
 namespace
 {
+constexpr int unlimited = Table::unlimited;
 constexpr int gap = 2;
+constexpr int narrowest = 8; // A column that gives way gives no more than this.
 
-QString padded(const QString &text, int width, Cli::Table::Alignment alignment)
+QString blanks(int count)
 {
-    const QString blanks(std::max(0, width - Cli::Text::width(text)), u' ');
-    return alignment == Cli::Table::Right ? blanks + text : text + blanks;
+    return QString(std::max(0, count), u' ');
+}
+
+/// The lines on the screen that \a cell takes in a column of \a width whose texts take \a most at most.
+QStringList broken(const Table::Cell &cell, int width, int most)
+{
+    QStringList lines;
+    for (const Table::Line &line : cell) {
+        const int indent = Cli::Text::width(line.lead);
+        const int room = std::max(1, std::min(width - indent, most));
+        QString lead = line.lead;
+        for (const QString &part : Cli::Text::width(line.text) <= room
+                 ? QStringList(line.text)
+                 : Cli::Text::wrapped(line.text, room)) {
+            lines.append(lead + part);
+            lead = blanks(indent);
+        }
+    }
+    return lines;
 }
 
 int widest(const QStringList &lines)
@@ -30,48 +50,88 @@ QString withoutTrailingBlanks(QString line)
         line.chop(1);
     return line;
 }
-} // namespace
 
-namespace Cli
-{
-Table::Table(const QList<Column> &columns) : m_columns(columns), m_widths(columns.size(), 0) { }
-
-void Table::addRow(const QList<QStringList> &cells)
-{
-    Q_ASSERT(cells.size() == m_columns.size());
-    std::transform(cells.cbegin(), cells.cend(), m_widths.cbegin(), m_widths.begin(),
-                   [](const QStringList &cell, int width) { return std::max(width, widest(cell)); });
-    m_rows.append(cells);
-}
-
-void Table::print(Output &output) const
-{
-    QList<QStringList> titles;
-    std::transform(m_columns.cbegin(), m_columns.cend(), std::back_inserter(titles),
-                   [](const Column &column) { return QStringList(column.title); });
-    printRow(output, titles, true);
-    for (const QList<QStringList> &row : m_rows)
-        printRow(output, row, false);
-}
-
-void Table::printRow(Output &output, const QList<QStringList> &cells, bool heading) const
+/// One row on the screen. Columns of width 0 are left out.
+QStringList rowLines(const QList<QStringList> &cells, const QList<int> &widths,
+                     const QList<Table::Column> &columns)
 {
     const auto taller = [](const QStringList &left, const QStringList &right) {
         return left.size() < right.size();
     };
     const qsizetype height = std::max_element(cells.cbegin(), cells.cend(), taller)->size();
+    QStringList lines;
     for (qsizetype i = 0; i < height; ++i) {
         QString line;
         for (qsizetype column = 0; column < cells.size(); ++column) {
-            if (m_widths.at(column) == 0)
+            if (widths.at(column) == 0)
                 continue;
             if (!line.isEmpty())
-                line += QString(gap, u' ');
-            const int width = std::max(m_widths.at(column), Text::width(m_columns.at(column).title));
-            line += padded(cells.at(column).value(i), width, m_columns.at(column).alignment);
+                line += blanks(gap);
+            const QString text = cells.at(column).value(i);
+            const QString padding = blanks(widths.at(column) - Cli::Text::width(text));
+            line += columns.at(column).alignment == Table::Right ? padding + text : text + padding;
         }
-        line = withoutTrailingBlanks(line);
-        output.line(heading ? output.faint(line) : line);
+        lines.append(withoutTrailingBlanks(line));
     }
+    return lines;
+}
+} // namespace
+
+namespace Cli
+{
+void Table::addRow(const QList<Cell> &cells)
+{
+    Q_ASSERT(cells.size() == m_columns.size());
+    m_rows.append(cells);
+}
+
+void Table::print(Output &output) const
+{
+    const QList<int> wanted = widths(output.columns());
+    QList<QStringList> cells;
+    for (qsizetype column = 0; column < m_columns.size(); ++column)
+        cells.append(wanted.at(column) == 0
+                         ? QStringList()
+                         : broken({m_columns.at(column).title}, wanted.at(column), unlimited));
+    for (const QString &line : rowLines(cells, wanted, m_columns))
+        output.line(output.faint(line));
+    for (const QList<Cell> &row : m_rows) {
+        for (qsizetype column = 0; column < m_columns.size(); ++column)
+            cells[column] = broken(row.at(column), wanted.at(column), m_columns.at(column).most);
+        for (const QString &line : rowLines(cells, wanted, m_columns))
+            output.line(line);
+    }
+}
+
+/// The width of each column; 0 for an empty one. \a available is that of the table, 0 for any.
+QList<int> Table::widths(int available) const
+{
+    QList<int> widths;
+    for (qsizetype column = 0; column < m_columns.size(); ++column)
+        widths.append(widthOf(column));
+    const auto shown = std::count_if(widths.cbegin(), widths.cend(), [](int width) { return width > 0; });
+    int excess = std::accumulate(widths.cbegin(), widths.cend(), int(shown - 1) * gap) - available;
+    while (available > 0 && excess > 0) {
+        int *yielding = nullptr;
+        for (qsizetype column = 0; column < widths.size(); ++column) {
+            int &width = widths[column];
+            if (m_columns.at(column).alignment == Left && width > narrowest
+                && (!yielding || width > *yielding))
+                yielding = &width;
+        }
+        if (!yielding)
+            break;
+        --*yielding;
+        --excess;
+    }
+    return widths;
+}
+
+int Table::widthOf(qsizetype column) const
+{
+    int width = 0;
+    for (const QList<Cell> &row : m_rows)
+        width = std::max(width, widest(broken(row.at(column), unlimited, m_columns.at(column).most)));
+    return width == 0 ? 0 : std::max(width, Text::width(m_columns.at(column).title));
 }
 } // namespace Cli

@@ -5,32 +5,47 @@
 #include <QList>
 #include <QStringList>
 
+#include <limits>
+
 namespace Cli
 {
 /// A table for a terminal: aligned columns, cells of one or more lines. A column whose cells are all empty is
-/// not shown.
+/// not shown. Where the output has a width, the widest columns of texts give way until the table fits.
 class Table
 {
 public:
     enum Alignment { Left, Right };
 
+    static constexpr int unlimited = std::numeric_limits<int>::max();
+
     struct Column {
         QString title;
         Alignment alignment = Left;
+        int most = unlimited; ///< Terminal columns that a text may take before it goes on in the next line.
     };
 
-    explicit Table(const QList<Column> &columns);
+    /// A line of a cell. Where it is too long, the text goes on below itself; the lead is never broken.
+    struct Line {
+        Line(const QString &all) : text(all) { }
+        Line(const QString &head, const QString &rest) : lead(head), text(rest) { }
 
-    /// Adds a row with one cell for each column; a cell is a list of lines.
-    void addRow(const QList<QStringList> &cells);
+        QString lead;
+        QString text;
+    };
+    using Cell = QList<Line>;
+
+    explicit Table(const QList<Column> &columns) : m_columns(columns) { }
+
+    /// Adds a row with one cell for each column.
+    void addRow(const QList<Cell> &cells);
 
     void print(Output &output) const;
 
 private:
-    void printRow(Output &output, const QList<QStringList> &cells, bool heading) const;
+    [[nodiscard]] QList<int> widths(int available) const;
+    [[nodiscard]] int widthOf(qsizetype column) const;
 
     QList<Column> m_columns;
-    QList<int> m_widths; ///< Of the cells alone; 0 for an empty column.
-    QList<QList<QStringList>> m_rows;
+    QList<QList<Cell>> m_rows;
 };
 } // namespace Cli

@@ -38,6 +38,15 @@ private Q_SLOTS:
         QVERIFY(!run.errors.isEmpty());
     }
 
+    void namesTheUnknownVerbAndWhatIsNear()
+    {
+        QCOMPARE(
+            runProgram({u"shwo"_s, u"a.mvdb"_s}).errors,
+            u"quillon: there is no verb \"shwo\"; did you mean \"show\"? (quillon --help lists them)\n"_s);
+        QCOMPARE(runProgram({u"frob\x1b"_s}).errors,
+                 u"quillon: there is no verb \"frob\\x1b\" (quillon --help lists them)\n"_s);
+    }
+
     void errorsGoToStandardErrorWithStatusTwo()
     {
         const TestFolder folder;

@@ -10,11 +10,11 @@ using Cli::Table;
 
 namespace
 {
-QString printed(const Table &table, bool colours = false)
+QString printed(const Table &table, bool colours = false, int columns = 0)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    Cli::Output output(buffer, colours);
+    Cli::Output output(buffer, colours, columns);
     table.print(output);
     return QString::fromUtf8(buffer.data());
 }
@@ -57,6 +57,33 @@ private Q_SLOTS:
         table.addRow({{u"AGE"_s}});
         QCOMPARE(printed(table, true), u"\x1b[2mName\x1b[0m\nAGE\n"_s);
         QCOMPARE(printed(table, false), u"Name\nAGE\n"_s);
+    }
+
+    void theWidestTextsGiveWayToTheTerminal()
+    {
+        Table table({{u"Name"_s}, {u"Size"_s, Table::Right}, {u"Label"_s}});
+        table.addRow({{u"HOUSEHOLD"_s}, {u"12"_s}, {u"Those who live and eat together"_s}});
+        QCOMPARE(printed(table, false, 31),
+                 u"Name       Size  Label\n"
+                 "HOUSEHOLD    12  Those who live\n"
+                 "                 and eat\n"
+                 "                 together\n"_s);
+        QCOMPARE(printed(table, false, 48),
+                 u"Name       Size  Label\nHOUSEHOLD    12  Those who live and eat together\n"_s);
+    }
+
+    void textsGoOnBelowThemselves()
+    {
+        Table table({{u"Values"_s, Table::Left, 10}});
+        table.addRow({{Table::Line(u" 1  "_s, u"never married"_s), Table::Line(u"10  "_s, u"widow"_s)}});
+        QCOMPARE(printed(table), u"Values\n 1  never\n    married\n10  widow\n"_s);
+    }
+
+    void columnsKeepSomeWidthOnANarrowTerminal()
+    {
+        Table table({{u"Name"_s}, {u"Label"_s}});
+        table.addRow({{u"ABCDEFGHIJ"_s}, {u"abc def ghi"_s}});
+        QCOMPARE(printed(table, false, 1), u"Name      Label\nABCDEFGH  abc def\nIJ        ghi\n"_s);
     }
 
     void outputThatCannotBeWrittenIsAFailure()

@@ -1,0 +1,23 @@
+#include "cli/Target.h"
+
+#include "cli/Failure.h"
+
+#include <QFileInfo>
+
+#include <filesystem>
+
+using namespace Qt::Literals::StringLiterals;
+
+void Cli::checkTarget(const QString &in, const QString &out, Overwrite overwrite)
+{
+    const QFileInfo target(out);
+    if (target.isDir())
+        throw Failure(u"%1: is a directory, not a file"_s.arg(out));
+    std::error_code error;
+    if (std::filesystem::equivalent(QFileInfo(in).filesystemFilePath(), target.filesystemFilePath(), error))
+        throw Failure(u"%1 and %2 are the same file"_s.arg(in, out));
+    if (target.exists() && !target.isFile())
+        throw Failure(u"%1: is not a regular file"_s.arg(out));
+    if (target.exists() && overwrite == Overwrite::Never)
+        throw Failure(u"%1: is there already (--force writes over it)"_s.arg(out));
+}

@@ -1,0 +1,67 @@
+#include "cli/TextConverter.h"
+
+#include "cli/Failure.h"
+#include "cli/Output.h"
+#include "cli/Text.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+/// A value alone, as JSON has it.
+QString spelt(const QJsonValue &value)
+{
+    return QString::fromUtf8(
+        QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).chopped(1).sliced(1));
+}
+
+/// What an element of a list is told by: its name, its code, or its place.
+QString nameOf(const QJsonValue &element, qsizetype index)
+{
+    for (const auto key : {"name"_L1, "value"_L1}) {
+        const QString name = element[key].toVariant().toString();
+        if (!name.isEmpty())
+            return name;
+    }
+    return u"[%1]"_s.arg(index);
+}
+
+void print(const QString &place, const QJsonValue &value, Cli::Output &output)
+{
+    const auto below = [&place](const QString &name) { return place.isEmpty() ? name : place + u'/' + name; };
+    if (const QJsonObject object = value.toObject(); !object.isEmpty()) {
+        // What is in an entity comes after the entity's own values.
+        for (const bool lists : {false, true}) {
+            for (auto member = object.begin(); member != object.end(); ++member) {
+                if (lists == (member.value().isArray() || member.value().isObject()))
+                    print(below(member.key()), member.value(), output);
+            }
+        }
+    } else if (const QJsonArray list = value.toArray(); !list.isEmpty()) {
+        for (qsizetype i = 0; i < list.size(); ++i)
+            print(below(nameOf(list.at(i), i)), list.at(i), output);
+    } else {
+        output.line(Cli::Text::printable(place + u": "_s + spelt(value)));
+    }
+}
+} // namespace
+
+void Cli::convertToText(const QString &path, Output &output)
+{
+    QFile file(path);
+    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly))
+        throw Failure(u"%1: cannot be opened: %2"_s.arg(path, file.errorString()));
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw Failure(u"%1: cannot be read: %2"_s.arg(path, file.errorString()));
+    if (const QJsonDocument document = QJsonDocument::fromJson(bytes); document.isObject())
+        print({}, document.object(), output);
+    else
+        output.raw(bytes);
+}
