@@ -21,7 +21,8 @@ QByteArray documentOf(TDcEntity *root)
 {
     QJsonObject object;
     ProcessDictionaryBusiness().getStructuraTreeRootToJson(root, &object);
-    return QJsonDocument({{QStringLiteral("root"), QJsonArray{object}}}).toJson(QJsonDocument::Compact);
+    return QJsonDocument(QJsonObject{{QStringLiteral("root"), QJsonArray{object}}})
+        .toJson(QJsonDocument::Compact);
 }
 
 /// Opens a document as the layer does: parse, turn into a map, read.

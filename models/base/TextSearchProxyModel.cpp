@@ -14,8 +14,9 @@ bool TextSearchProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &so
     m_filter->setExpression(filterRegularExpression());
     if (m_filter->matchesEverything() || m_filter->matchesNothing())
         return m_filter->matchesEverything();
+    const QAbstractItemModel *source = sourceModel();
     for (int column = 0; column < m_columns; ++column) {
-        if (m_filter->matches(sourceModel()->index(sourceRow, column, sourceParent).data().toString()))
+        if (m_filter->matches(source->data(source->index(sourceRow, column, sourceParent)).toString()))
             return true;
     }
     return false;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace
 {
@@ -22,7 +23,7 @@ bool isAddressCharacter(QChar character)
 ///
 /// Found by hand: the expression tries every position of a text without '@', twice per comparison. Like any
 /// expression it matches nothing in malformed UTF-16.
-QString address(const QString &text)
+QString address(QString text)
 {
     const qsizetype at = text.indexOf(u'@');
     if (at < 0 || !text.isValidUtf16())
@@ -36,13 +37,22 @@ QString address(const QString &text)
 
 QString comparedText(const SortRules::Cell &cell)
 {
-    const QString text = cell.value.toString();
-    return cell.column == addressColumn ? address(text) : text;
+    QString text = cell.value.toString();
+    return cell.column == addressColumn ? address(std::move(text)) : text;
 }
 
 bool lessInLocale(const QString &left, const QString &right)
 {
     return QString::localeAwareCompare(left, right) < 0;
+}
+/// The number that a tag's text is in the default locale.
+std::optional<int> tagNumber(const QVariant &tag)
+{
+    if (tag.typeId() == QMetaType::Int)
+        return tag.toInt(); // Every locale reads plain digits as they are.
+    bool isNumber = false;
+    const int number = QLocale().toInt(tag.toString().trimmed(), &isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
 }
 } // namespace
 
@@ -84,16 +94,13 @@ std::optional<bool> SortRules::tags(const Cell &left, const Cell &right)
 {
     if (left.column != tagColumn || right.column != tagColumn)
         return {};
-    const QString leftText = left.value.toString().trimmed();
-    const QString rightText = right.value.toString().trimmed();
-    const QLocale locale;
-    bool leftIsNumber = false;
-    bool rightIsNumber = false;
-    const int leftNumber = locale.toInt(leftText, &leftIsNumber);
-    const int rightNumber = locale.toInt(rightText, &rightIsNumber);
-    if (leftIsNumber && rightIsNumber)
-        return leftNumber < rightNumber;
-    return leftIsNumber == rightIsNumber ? lessInLocale(leftText, rightText) : leftIsNumber;
+    const std::optional<int> leftNumber = tagNumber(left.value);
+    const std::optional<int> rightNumber = tagNumber(right.value);
+    if (leftNumber && rightNumber)
+        return *leftNumber < *rightNumber;
+    if (leftNumber || rightNumber)
+        return leftNumber.has_value();
+    return lessInLocale(left.value.toString().trimmed(), right.value.toString().trimmed());
 }
 
 std::optional<bool> SortRules::texts(const Cell &left, const Cell &right)

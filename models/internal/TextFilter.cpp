@@ -67,13 +67,34 @@ TextFilter::Kind TextFilter::classify()
     return std::all_of(literal->cbegin(), literal->cend(), isAscii) ? Kind::Literal : Kind::Expression;
 }
 
-bool TextFilter::matches(const QString &text) const
+/// Keeps `text.toUpper().trimmed()`. Latin-1, which most texts are, goes without a new text for each.
+void TextFilter::setCompared(const QString &text)
+{
+    const QStringView trimmed = QStringView(text).trimmed();
+    m_compared.resize(trimmed.size());
+    bool simple = true; // Latin-1, and so are its capitals.
+    std::transform(trimmed.utf16(), trimmed.utf16() + trimmed.size(),
+                   reinterpret_cast<char16_t *>(m_compared.data()), [&simple](char16_t c) {
+                       simple &= c < u'ÿ' && c != u'µ' && c != u'ß';
+                       const bool small = (c >= u'a' && c <= u'z') || (c >= u'à' && c <= u'þ' && c != u'÷');
+                       return char16_t(small ? c - (u'a' - u'A') : c);
+                   });
+    if (!simple)
+        m_compared = text.toUpper().trimmed();
+    m_wellFormed = simple || m_compared.isValidUtf16();
+}
+
+bool TextFilter::matches(const QString &text)
 {
     if (m_kind == Kind::Everything || m_kind == Kind::Nothing)
         return m_kind == Kind::Everything;
-    const QString compared = text.toUpper().trimmed();
-    if (m_kind == Kind::Expression)
-        return m_expression.match(compared).hasMatch();
-    // An expression finds nothing in malformed UTF-16; neither does its literal.
-    return compared.contains(m_literal, m_case) && compared.isValidUtf16();
+    setCompared(text);
+    if (!m_wellFormed) // Expressions find nothing in it, so neither may a literal.
+        return false;
+    if (m_kind == Kind::Literal)
+        return m_compared.contains(m_literal, m_case);
+    return m_expression
+        .match(m_compared, 0, QRegularExpression::NormalMatch,
+               QRegularExpression::DontCheckSubjectStringMatchOption)
+        .hasMatch();
 }
