@@ -101,6 +101,8 @@ private Q_SLOTS:
     void everyTruncationGivesFieldsOrAnError_data() { kindsOfFiles(); }
     void everyTruncationGivesFieldsOrAnError();
     void everyTruncatedCatalogIsRefused();
+    void aMissingEndIsNoticed_data();
+    void aMissingEndIsNoticed();
     void garbageIsRefused_data() { kindsOfFiles(); }
     void garbageIsRefused();
     void changedBytesDoNoHarm_data() { kindsOfFiles(); }
@@ -399,6 +401,25 @@ void tst_StatisticsFile::everyTruncatedCatalogIsRefused()
     const QString path = sourcePath(files, Sas);
     everyTruncation(files, u"persons.sas7bcat"_s, catalog(),
                     [&path](const QString &) { return SourceReader::read(path); });
+}
+
+void tst_StatisticsFile::aMissingEndIsNoticed_data()
+{
+    QTest::addColumn<int>("kind");
+    // Here the parser alone takes a file without its last bytes: a Stata file loses its labels silently.
+    QTest::addRow("dta") << int(Dta);
+    QTest::addRow("xpt") << int(Xport);
+}
+
+void tst_StatisticsFile::aMissingEndIsNoticed()
+{
+    QFETCH(int, kind);
+    const SourceFiles files;
+    QByteArray cut = persons(Kind(kind));
+    cut.chop(79);
+    const SourceFields result = SourceReader::read(files.write(u"cut."_s + suffixes[kind], cut));
+    QVERIFY(!result.ok());
+    QVERIFY(messages(result.errors).contains(u"its end is missing"_s));
 }
 
 void tst_StatisticsFile::garbageIsRefused()
