@@ -7,21 +7,10 @@
 #include "cli/Text.h"
 
 #include <CLI/CLI.hpp>
-#include <QSaveFile>
 
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace
-{
-void save(const QString &path, const QByteArray &bytes)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw Cli::Failure(u"%1: cannot be written: %2"_s.arg(path, file.errorString()));
-}
-} // namespace
 
 namespace Cli
 {

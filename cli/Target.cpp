@@ -3,6 +3,7 @@
 #include "cli/Failure.h"
 
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <filesystem>
 
@@ -20,4 +21,11 @@ void Cli::checkTarget(const QString &in, const QString &out, Overwrite overwrite
         throw Failure(u"%1: is not a regular file"_s.arg(out));
     if (target.exists() && overwrite == Overwrite::Never)
         throw Failure(u"%1: is there already (--force writes over it)"_s.arg(out));
+}
+
+void Cli::save(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw Failure(u"%1: cannot be written: %2"_s.arg(path, file.errorString()));
 }

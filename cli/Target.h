@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace Cli
@@ -10,4 +11,7 @@ enum class Overwrite { Never, Allowed };
 /// Refuses what must not be written to: \a in by whatever name, anything that is no regular file and, if so
 /// wanted, any file that is there. Throws Failure. To be called before long work.
 void checkTarget(const QString &in, const QString &out, Overwrite overwrite = Overwrite::Allowed);
+
+/// Writes \a bytes to the file at \a path, all of them or none. Throws Failure.
+void save(const QString &path, const QByteArray &bytes);
 } // namespace Cli

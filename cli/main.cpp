@@ -1,4 +1,5 @@
 #include "cli/Check.h"
+#include "cli/CodebookVerb.h"
 #include "cli/Convert.h"
 #include "cli/Diff.h"
 #include "cli/Failure.h"
@@ -42,6 +43,7 @@ int run(int argc, char **argv, Cli::Output &output)
     app.require_subcommand(1);
     int status = 0;
     Cli::addCheck(app, output, status);
+    Cli::addCodebook(app, output);
     Cli::addConvert(app, output, status);
     Cli::addDiff(app, output, status);
     Cli::addImport(app, output);
@@ -61,8 +63,8 @@ int run(int argc, char **argv, Cli::Output &output)
 
 int main(int argc, char **argv)
 {
-    QLoggingCategory::setFilterRules(
-        u"*.debug=false"_s); // Standard error is for the user, not for debugging.
+    // Standard error is for what the program has to say, not for Qt's remarks.
+    QLoggingCategory::setFilterRules(u"*.debug=false\n*.warning=false"_s);
     QFile standardOutput;
     (void)standardOutput.open(stdout, QIODevice::WriteOnly);
     Cli::Output output(standardOutput, Cli::Output::coloursSuitStandardOutput(),
