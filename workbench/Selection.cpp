@@ -27,7 +27,9 @@ void Selection::setEntity(TDcEntity *entity)
 
 void Selection::setVariables(const QList<TDcVariable *> &variables, TDcVariable *current)
 {
-    if (variables == m_variables && current == m_current)
+    // Not with QList's own comparison: of two empty lists it compares the memory at null.
+    if (std::equal(variables.cbegin(), variables.cend(), m_variables.cbegin(), m_variables.cend())
+        && current == m_current)
         return;
     m_variables = variables;
     m_current = current;
