@@ -119,6 +119,8 @@ QList<ValueLabelElement *> *VariableDiccionaryModel::loadCategories(QVariant cat
 
 void VariableDiccionaryModel::updateEntityVariables(QList<TDcVariable *> *variables)
 {
+    if (!variables)
+        return;
     const QPointer guard(this); // See dropMimeData().
     const bool offerSkip = variables->size() > 1;
     OwnedList<TDcVariable> pending; // What is left in it when this ends is destroyed.

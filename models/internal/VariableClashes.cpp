@@ -31,7 +31,7 @@ VariableClashes::Texts::Texts(const TDcVariable &variable)
 }
 
 VariableClashes::VariableClashes(const QList<TDcVariable *> &existing, const QList<TDcVariable *> &added)
-    : m_state(existing)
+    : m_state(existing), m_lastTexts(lastTexts(existing))
 {
     m_names.reserve(added.size());
     for (const TDcVariable *variable : added) {
@@ -47,7 +47,7 @@ VariableClashes::VariableClashes(const QList<TDcVariable *> &existing, const QLi
 
 bool VariableClashes::describes(const QList<TDcVariable *> &existing) const
 {
-    return m_state == ListState(existing);
+    return m_state == ListState(existing) && m_lastTexts == lastTexts(existing);
 }
 
 TDcVariable *VariableClashes::twinOf(const TDcVariable &variable) const
@@ -57,9 +57,11 @@ TDcVariable *VariableClashes::twinOf(const TDcVariable &variable) const
 
 QString VariableClashes::freeName(const QString &name) const
 {
-    const Uses uses = m_uses.value(name);
+    Uses uses = m_uses.value(name);
     if (!uses.taken)
         return name;
+    if (!name.isValidUtf16())
+        uses.letters = 0; // See remember().
     char16_t suffix = firstSuffix;
     while (suffix < lastSuffix && (uses.letters >> (suffix - firstSuffix) & 1U))
         ++suffix; // Past Y it is Z, used or not: the name is repeated then.
@@ -71,6 +73,13 @@ void VariableClashes::append(TDcVariable *variable)
     remember(variable);
     ++m_state.size;
     m_state.last = variable;
+    m_lastTexts = Texts(*variable);
+}
+
+VariableClashes::Texts VariableClashes::lastTexts(const QList<TDcVariable *> &variables)
+{
+    const TDcVariable *last = variables.isEmpty() ? nullptr : variables.constLast();
+    return last ? Texts(*last) : Texts();
 }
 
 void VariableClashes::remember(TDcVariable *variable)
@@ -85,7 +94,7 @@ void VariableClashes::remember(TDcVariable *variable)
             m_twins.insert(texts, variable);
     }
     const auto [base, letter] = splitSuffix(name);
-    if (!letter)
+    if (!letter || !name.isValidUtf16()) // A pattern finds no suffix in malformed text.
         return;
     // XAGE_A uses up the letter A of AGE as well: only where the name ends is looked at.
     for (const qsizetype length : std::as_const(m_lengths)) {

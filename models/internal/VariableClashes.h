@@ -27,7 +27,8 @@ class VariableClashes
 public:
     VariableClashes(const QList<TDcVariable *> &existing, const QList<TDcVariable *> &added);
 
-    /// Whether this still describes \a existing, as far as its size and its end tell.
+    /// Whether this still describes \a existing, as far as its size and its end tell: slots that change a new
+    /// variable find it there.
     [[nodiscard]] bool describes(const QList<TDcVariable *> &existing) const;
 
     /// The first existing variable that has name, alias, label and group of \a variable; null if none has.
@@ -40,6 +41,7 @@ public:
 
 private:
     struct Texts {
+        Texts() = default;
         explicit Texts(const TDcVariable &variable);
         bool operator==(const Texts &) const = default;
         friend size_t qHash(const Texts &texts, size_t seed)
@@ -53,6 +55,7 @@ private:
         quint32 letters = 0; // Suffixes in use; bit 0 is A.
     };
 
+    [[nodiscard]] static Texts lastTexts(const QList<TDcVariable *> &variables);
     void remember(TDcVariable *variable);
 
     QList<QString> m_names; // Keeps the keys of m_uses alive.
@@ -60,4 +63,5 @@ private:
     QList<qsizetype> m_lengths; // Of those names, ascending, each once.
     QHash<Texts, TDcVariable *> m_twins;
     ListState m_state;
+    Texts m_lastTexts;
 };

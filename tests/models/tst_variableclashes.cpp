@@ -60,6 +60,8 @@ private:
     {
         const QRegularExpression expression(QRegularExpression::escape(name) + u"_([A-Z])$"_s);
         QString used;
+        if (!expression.isValid()) // The name is malformed text: nothing matches it.
+            return u'A';
         for (const QString &each : texts)
             used += expression.match(each.section(u'|', 0, 0)).captured(1);
         for (char16_t letter = u'A'; letter <= u'Z'; ++letter) {
@@ -258,6 +260,13 @@ private Q_SLOTS:
         QCOMPARE(names(), (QStringList{u"AGE"_s, u"SEX"_s, u"NEW"_s}));
     }
 
+    void closingTheWindowCancels()
+    {
+        QTimer::singleShot(0, this, [] { QApplication::activeModalWidget()->close(); });
+        QVERIFY(drop({fieldText(u"AGE"_s), fieldText(u"NEW"_s)}));
+        QCOMPARE(names(), (QStringList{u"AGE"_s, u"SEX"_s}));
+    }
+
     void overwritesTheFirstOfTheEqualOnes()
     {
         m_person->addVariables(makeVariable(u"AGE"_s));
@@ -315,6 +324,12 @@ private Q_SLOTS:
         QCOMPARE(variables().size(), 3);
         QVERIFY(reset.isEmpty());
         QCOMPARE(m_model->rowCount(), 2); // Rows are rebuilt by a drop only.
+    }
+
+    void noListIsAnEmptyOne()
+    {
+        m_model->updateEntityVariables(nullptr);
+        QCOMPARE(variables().size(), 2);
     }
 
     // The duplicate report
@@ -388,7 +403,9 @@ private Q_SLOTS:
         const auto text = [&random](const QStringList &texts) {
             return texts.at(random.bounded(int(texts.size())));
         };
-        const QStringList bases{u"A"_s, u"AB"_s, u"XA"_s, u"A_A"_s, u"A.B"_s, u"_A"_s, QString(), u"a"_s};
+        const QString half = QString(QChar(0xDE00)) + u'A'; // No expression finds anything in such text.
+        const QStringList bases{u"A"_s,  u"AB"_s,   u"XA"_s, u"A_A"_s, u"A.B"_s,
+                                u"_A"_s, QString(), u"a"_s,  half,     QChar(0xD83D) + half};
         const QStringList endings{QString(), QString(), u"_A"_s, u"_B"_s, u"_C_A"_s,
                                   u"_Z"_s,   u"_A\n"_s, u"_a"_s, u"\n"_s, u"_"_s};
         const QStringList answers{u"Overwrite"_s, u"Rename"_s, u"Rename"_s,

@@ -168,6 +168,16 @@ private Q_SLOTS:
         QCOMPARE(names(), (QStringList{u"AGE"_s, u"SEX"_s, u"A"_s, u"B"_s, u"B_A"_s}));
     }
 
+    void seesNamesThatSlotsGiveNewVariables()
+    {
+        connect(m_model.get(), &VariableDiccionaryModel::signalVariablesModified, this,
+                [this] { variables().last()->setName(names().constLast().toUpper()); });
+        const MessageBoxAnswer box({u"Rename"_s});
+        QVERIFY(drop({fieldText(u"b"_s), fieldText(u"B"_s), fieldText(u"b"_s, u"x"_s)}));
+        QCOMPARE(box.texts(), QStringList{u"B already exists. Overwrite?"_s});
+        QCOMPARE(names(), (QStringList{u"AGE"_s, u"SEX"_s, u"B"_s, u"B_A"_s, u"B"_s}));
+    }
+
     void seesVariablesThatSlotsTakeAway()
     {
         connect(m_model.get(), &VariableDiccionaryModel::signalVariablesModified, this, [this] {
