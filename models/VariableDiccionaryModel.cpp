@@ -110,18 +110,19 @@ bool VariableDiccionaryModel::setData(const QModelIndex &index, const QVariant &
     TDcVariable *variable = itemAt(index);
     if (!variable)
         return false;
+    const QPointer guard(this); // Questions run an event loop, and slots may end what they hear of.
     if (role == Qt::EditRole) {
-        const QPointer guard(this);
         if (!accepts(*variable, index.column(), value.toString()))
             return false;
         const bool store = index.column() != Name || confirmRename(*variable, value.toString());
-        if (!guard) // The question runs an event loop.
+        if (!guard)
             return false;
         if (store)
             storeCell(columns, *variable, index.column(), value);
     }
     Q_EMIT dataChanged(index, index);
-    Q_EMIT signalVariablesModified();
+    if (guard)
+        Q_EMIT signalVariablesModified();
     return true;
 }
 

@@ -543,6 +543,14 @@ COUNTRY/nation
         QCOMPARE(m_person->getRefCode(), u"AGE"_s);
     }
 
+    void survivesItsEndInASlot()
+    {
+        connect(m_model.get(), &QAbstractItemModel::dataChanged, this, [this] { m_model.reset(); });
+        QVERIFY(m_model->setData(cell(0, Label), u"Years"_s));
+        QCOMPARE(variable(0)->getLabel(), u"Years"_s);
+        QCOMPARE(m_announced.size(), 1); // Who is gone has nothing more to say.
+    }
+
     void looksAtTheNamesAfreshEachTime()
     {
         const MessageBoxAnswer box;
