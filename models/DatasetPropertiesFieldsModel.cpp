@@ -68,6 +68,8 @@ QVariant DatasetPropertiesFieldsModel::getItemData(TDcSourceField *field, int co
 QJsonArray DatasetPropertiesFieldsModel::laodDataCategories(TDcSourceField *field) const
 {
     QJsonArray categories;
+    if (!field)
+        return categories;
     const auto entries = QStringView(field->categories).split(u'\t', Qt::SkipEmptyParts);
     for (QStringView entry : entries) {
         const qsizetype end = entry.indexOf(u' ');

@@ -111,6 +111,7 @@ private Q_SLOTS:
         QVERIFY(!model.data(empty, Qt::DecorationRole).isValid());
         QVERIFY(!model.setData(empty, 1));
         QVERIFY(!model.getItemData(nullptr, 2).isValid());
+        QVERIFY(model.laodDataCategories(nullptr).isEmpty());
         const std::unique_ptr<QMimeData> data(model.mimeData({empty}));
         QVERIFY(payloadTexts(*data).isEmpty());
         QCOMPARE(DatasetPropertiesFieldsModel(nullptr, &fields, {}).rowCount(), 1);
