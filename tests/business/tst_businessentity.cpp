@@ -3,7 +3,9 @@
 #include "tests/support/MessageBoxAnswer.h"
 #include "tests/support/Trees.h"
 
+#include <QApplication>
 #include <QTest>
+#include <QTimer>
 
 #include <type_traits>
 
@@ -134,6 +136,13 @@ COUNTRY
         QTEST(m_root->getSelectable(), "selectable");
         QVERIFY(entity(u"PERSON")->getSelectable()); // Deselecting those is the caller's.
         QCOMPARE(box.shown().size(), 1);
+    }
+
+    void closingTheWindowIsNo()
+    {
+        QTimer::singleShot(0, this, [] { QApplication::activeModalWidget()->close(); });
+        QCOMPARE(toDeselect(m_root.get()), QStringList());
+        QVERIFY(m_root->getSelectable());
     }
 
     void namesAreNoPlaceholders()

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
 using namespace Qt::Literals::StringLiterals;
@@ -219,6 +220,15 @@ COUNTRY/nation
         findEntity(m_root.get(), u"BLOCK")->addVariables(makeVariable(u"V"_s, {}, {}, u"Person"_s));
         QVERIFY(!m_model->setData(person(), u"person"_s));
         QCOMPARE(box.texts().last(), u"Entity name already exists as a group name"_s);
+    }
+
+    void survivesItsEndWhileItTells()
+    {
+        const MessageBoxAnswer box;
+        QTimer::singleShot(0, this, [this] { m_model.reset(); });
+        QVERIFY(!m_model->setData(person(), u"DWELLING"_s));
+        QCOMPARE(box.shown().size(), 1);
+        QVERIFY(!m_model);
     }
 
     void otherRolesStoreNothingButAnnounceAChange()
