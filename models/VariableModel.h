@@ -7,7 +7,8 @@
 class BUSINESS_QUILLON_EXPORT VariableModel : public CheckListModel
 {
 public:
-    /// Keeps the entries of \a variables, which is not looked at again; neither list nor entity is owned.
+    /// Keeps the entries of \a variables, which is not looked at again, null stands for an empty list;
+    /// neither list nor entity is owned.
     VariableModel(QObject *parent, TDcEntity *entity, QList<TDcVariable *> *variables);
 
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;

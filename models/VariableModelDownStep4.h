@@ -6,6 +6,7 @@
 class BUSINESS_QUILLON_EXPORT VariableModelDownStep4 : public CheckListModel
 {
 public:
-    /// Keeps the entries of \a variables, which is not looked at again; neither list nor entity is owned.
+    /// Keeps the entries of \a variables, which is not looked at again, null stands for an empty list;
+    /// neither list nor entity is owned.
     VariableModelDownStep4(QObject *parent, TDcEntity *entity, QList<TDcVariable *> *variables);
 };

@@ -2,6 +2,6 @@
 
 VariableModelSplitStep3::VariableModelSplitStep3(QObject *parent, TDcEntity *,
                                                  QList<TDcVariable *> *variables)
-    : CheckListModel(parent, *variables, 3)
+    : CheckListModel(parent, variables ? *variables : QList<TDcVariable *>(), 3)
 {
 }

@@ -76,6 +76,8 @@ QVariant CheckListModel::getItemData(TDcVariable *variable, int column) const
 QList<TDcVariable *> CheckListModel::withoutRoles(const TDcEntity *entity,
                                                   const QList<TDcVariable *> *variables)
 {
+    if (!variables)
+        return {};
     const QStringList roles{entity->getRefCode(), entity->getRefLabel(), entity->getWeightVariable()};
     QList<TDcVariable *> others;
     std::copy_if(

@@ -69,6 +69,7 @@ private Q_SLOTS:
     {
         QList<TDcVariable *> none;
         const VariableModel model(nullptr, m_entity.get(), &none);
+        QCOMPARE(VariableModel(nullptr, m_entity.get(), nullptr).rowCount(), 0);
         checkRowListContract(model, none, 5);
     }
 

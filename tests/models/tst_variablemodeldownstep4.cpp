@@ -51,6 +51,7 @@ private Q_SLOTS:
     {
         QList<TDcVariable *> none;
         const VariableModelDownStep4 model(nullptr, m_entity.get(), &none);
+        QCOMPARE(VariableModelDownStep4(nullptr, m_entity.get(), nullptr).rowCount(), 0);
         checkRowListContract(model, none, 3);
     }
 

@@ -52,6 +52,7 @@ private Q_SLOTS:
     {
         QList<TDcVariable *> none;
         const VariableModelSplitStep3 model(nullptr, m_entity.get(), &none);
+        QCOMPARE(VariableModelSplitStep3(nullptr, m_entity.get(), nullptr).rowCount(), 0);
         checkRowListContract(model, none, 3);
     }
 

@@ -228,6 +228,18 @@ inline void checkSearchContract(QSortFilterProxyModel &proxy, int columns)
         QCOMPARE(found(""), (QList{0, 1, 2}));
         proxy.setSourceModel(nullptr);
     }
+
+    // Without a source there is nothing to find; a new one is searched for what is still looked for.
+    proxy.setFilterRegularExpression(QStringLiteral("WATER"));
+    proxy.sort(0);
+    QCOMPARE(proxy.rowCount(), 0);
+    QStandardItemModel other;
+    setColumn(other, 0, {QStringLiteral("fire"), QStringLiteral("water")});
+    proxy.setSourceModel(&other);
+    QCOMPARE(shownRows(proxy), QList{1});
+    proxy.setSourceModel(nullptr);
+    proxy.setFilterRegularExpression(QRegularExpression());
+    proxy.sort(-1);
 }
 
 /// Of a text in column 1 only the address counts; in other columns all of it.
@@ -246,15 +258,19 @@ inline void checkAddressOrder(QSortFilterProxyModel &proxy)
              (QStringList{QStringLiteral("@"), QStringLiteral("a@ z@"), QStringLiteral("(b@)z")}));
 }
 
-/// Date-times are ordered by time; what the right cell holds is converted.
+/// Date-times are ordered by time; what the right cell holds is converted. What is compared is displayed,
+/// whatever the base's sort role.
 inline void checkDateOrder(QSortFilterProxyModel &proxy, int column)
 {
     const QDateTime early(QDate(999, 12, 31), QTime(23, 59), Qt::UTC);
     const QDateTime middle(QDate(2024, 2, 1), QTime(8, 0), Qt::UTC);
     const QDateTime late(QDate(10024, 1, 1), QTime(0, 0), Qt::UTC); // Before the others as a text.
-    QCOMPARE(
-        sorted(proxy, column, {late, early, middle}),
-        (QStringList{QVariant(early).toString(), QVariant(middle).toString(), QVariant(late).toString()}));
+    for (const int role : {Qt::UserRole, Qt::DisplayRole}) {
+        proxy.setSortRole(role);
+        QCOMPARE(sorted(proxy, column, {late, early, middle}),
+                 (QStringList{QVariant(early).toString(), QVariant(middle).toString(),
+                              QVariant(late).toString()}));
+    }
 }
 
 /// Clicks the header of \a column and returns what the view then shows there.
