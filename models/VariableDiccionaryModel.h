@@ -47,8 +47,8 @@ public:
     /// a code are left out.
     [[nodiscard]] QList<ValueLabelElement *> *loadCategories(QVariant categories);
     /// Adds \a variables to the entity and asks the user about those that are there already. The list stays
-    /// the caller's and as it is; its variables do not: those that are not added are destroyed. Each must be
-    /// new and listed once.
+    /// the caller's and as it is, and null stands for an empty one; its variables do not: those that are not
+    /// added are destroyed. Each must be new and listed once.
     void updateEntityVariables(QList<TDcVariable *> *variables);
     /// Tells the user which variables of the entity share a name; says nothing if none do.
     void showDuplicatedNamesWarning();
