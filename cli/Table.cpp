@@ -10,7 +10,6 @@ using Cli::Table;
 
 namespace
 {
-constexpr int unlimited = Table::unlimited;
 constexpr int gap = 2;
 constexpr int narrowest = 8; // A column that gives way gives no more than this.
 

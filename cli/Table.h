@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <limits>
+#include <utility>
 
 namespace Cli
 {
@@ -26,8 +27,8 @@ public:
 
     /// A line of a cell. Where it is too long, the text goes on below itself; the lead is never broken.
     struct Line {
-        Line(const QString &all) : text(all) { }
-        Line(const QString &head, const QString &rest) : lead(head), text(rest) { }
+        Line(QString all) : text(std::move(all)) { }
+        Line(QString head, QString rest) : lead(std::move(head)), text(std::move(rest)) { }
 
         QString lead;
         QString text;

@@ -25,7 +25,7 @@ QString spelt(const QJsonValue &value)
 QString nameOf(const QJsonValue &element, qsizetype index)
 {
     for (const auto key : {"name"_L1, "value"_L1}) {
-        const QString name = element[key].toVariant().toString();
+        QString name = element[key].toVariant().toString();
         if (!name.isEmpty())
             return name;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/MetadataVariables.h"
 #include "model/DocumentOrigin.h"
+#include "model/MetadataVariables.h"
 #include "model/model_quillon_export.h"
 #include "model/OwnedList.h"
 

@@ -6,8 +6,7 @@
 #include <QScopedValueRollback>
 
 Document::Document(QObject *parent)
-    : QObject(parent),
-      m_file(newFile()),
+    : QObject(parent), m_file(newFile()),
       m_history(&m_undoStack, [this](auto extent, const auto &change) { announce(extent, change); })
 {
     m_history.start(*root());

@@ -154,11 +154,13 @@ DocumentFile::SaveOptions FileCommands::confirmSaving()
         showError(tr("“%1” cannot be saved.").arg(document.title()));
         return {};
     }
-    QMessageBox box(QMessageBox::Warning, tr("Save"), document.errorText(), QMessageBox::Cancel, m_workspace.window);
+    QMessageBox box(QMessageBox::Warning, tr("Save"), document.errorText(), QMessageBox::Cancel,
+                    m_workspace.window);
     box.setTextFormat(Qt::PlainText);
     if (losing)
         box.setDetailedText(document.losses().join(u'\n'));
-    const QAbstractButton *yes = box.addButton(losing ? tr("Save Anyway") : tr("Overwrite"), QMessageBox::AcceptRole);
+    const QAbstractButton *yes =
+        box.addButton(losing ? tr("Save Anyway") : tr("Overwrite"), QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     if (box.clickedButton() != yes)

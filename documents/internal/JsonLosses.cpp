@@ -177,7 +177,7 @@ private:
     }
 
     /// Where the walk is: "root.variables[3].label".
-    QString path() const
+    [[nodiscard]] QString path() const
     {
         QString path;
         for (qsizetype i = 0; i < m_levels.size(); ++i) {

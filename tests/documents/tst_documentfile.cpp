@@ -189,7 +189,7 @@ private Q_SLOTS:
     void aFullDiskLeavesTheOldFile()
     {
         const TemporaryFile file(smallDictionary);
-            const int status = statusOf(start([&] {
+        const int status = statusOf(start([&] {
             // No file may grow beyond this: what the kernel answers is what it answers for a full disk.
             std::signal(SIGXFSZ, SIG_IGN);
             const rlimit limit{.rlim_cur = 100'000, .rlim_max = 100'000};

@@ -11,8 +11,8 @@
 
 /// A document, a selection and actions without a window, for panels.
 ///
-/// The dictionary is CENSUS with HOUSEHOLD below it, and PERSON and DEATH below that. PERSON has the variables
-/// SEX, AGE (alias P03) and WAGE.
+/// The dictionary is CENSUS with HOUSEHOLD below it, and PERSON and DEATH below that. PERSON has the
+/// variables SEX, AGE (alias P03) and WAGE.
 struct Bench {
     Document document;
     Selection selection{&document};
@@ -25,7 +25,8 @@ struct Bench {
         TDcEntity *person = add(household, QStringLiteral("PERSON"));
         add(household, QStringLiteral("DEATH"));
         person->addVariables(makeVariable(QStringLiteral("SEX"), {}, QStringLiteral("Sex")));
-        person->addVariables(makeVariable(QStringLiteral("AGE"), QStringLiteral("P03"), QStringLiteral("Age")));
+        person->addVariables(
+            makeVariable(QStringLiteral("AGE"), QStringLiteral("P03"), QStringLiteral("Age")));
         person->addVariables(makeVariable(QStringLiteral("WAGE"), {}, QStringLiteral("Monthly wage")));
         document.commit(QStringLiteral("setting up"));
         document.undoStack()->clear();

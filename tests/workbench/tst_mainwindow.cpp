@@ -174,10 +174,12 @@ void TestMainWindow::everyControlHasAnAccessibleName()
     QStringList nameless;
     for (const QWidget *widget : widgets) {
         const QWidget *parent = widget->parentWidget();
-        const bool inside = qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent);
+        const bool inside =
+            qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent);
         if (widget->focusPolicy() == Qt::NoFocus || inside || widget->objectName().startsWith(u"qt_"_s))
             continue;
-        const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget));
+        const QAccessibleInterface *accessible =
+            QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget));
         if (accessible && accessible->text(QAccessible::Name).isEmpty())
             nameless.append(u"%1 in %2"_s.arg(QLatin1StringView(widget->metaObject()->className()),
                                               QLatin1StringView(parent->metaObject()->className())));

@@ -57,9 +57,8 @@ QList<qsizetype> Places::rowsOf(TDcEntity *root, const TDcEntity *entity)
 
 TDcEntity *Places::at(TDcEntity *root, const QList<qsizetype> &rows)
 {
-    return std::accumulate(rows.cbegin(), rows.cend(), root, [](const TDcEntity *node, qsizetype row) {
-        return node->getChildren()->at(row);
-    });
+    return std::accumulate(rows.cbegin(), rows.cend(), root,
+                           [](const TDcEntity *node, qsizetype row) { return node->getChildren()->at(row); });
 }
 
 TDcEntity *Places::findEntity(TDcEntity *root, const QString &name)

@@ -62,10 +62,11 @@ void EntityForm::build()
     m_form->addRow(tr("Weight"),
                    offerVariables(m_form->text(tr("Weight variable"), get<&E::getWeightVariable>(),
                                                set<&E::setWeightVariable, QString>())));
-    m_form->addRow({},
-                   m_form->check(tr("Selectable"), get<&E::getSelectable>(),
-                                 [this](bool selectable) { EntityEdits::setSelectable(m_entity, selectable); }),
-                   {}, m_form->check(tr("Virtual"), get<&E::getIsvirtual>(), set<&E::setIsvirtual, bool>()));
+    m_form->addRow(
+        {},
+        m_form->check(tr("Selectable"), get<&E::getSelectable>(),
+                      [this](bool selectable) { EntityEdits::setSelectable(m_entity, selectable); }),
+        {}, m_form->check(tr("Virtual"), get<&E::getIsvirtual>(), set<&E::setIsvirtual, bool>()));
     m_form->addRow(tr("Notes"),
                    m_form->longText(tr("Entity documentation"), get<&E::getDocumentationEntity>(),
                                     set<&E::setDocumentationEntity, QString>()));

@@ -102,9 +102,9 @@ void VariableTablePanel::duplicateVariables()
     TDcEntity *entity = m_workspace.selection->entity();
     const QList<TDcVariable *> variables = m_workspace.selection->variables();
     QList<TDcVariable *> copies;
-    m_workspace.document->edit(stepText(tr("duplicating %1"), tr("duplicating %L1 variables"), variables), [&] {
-        copies = VariableEdits::duplicate(m_workspace.document->root(), entity, variables);
-    });
+    m_workspace.document->edit(
+        stepText(tr("duplicating %1"), tr("duplicating %L1 variables"), variables),
+        [&] { copies = VariableEdits::duplicate(m_workspace.document->root(), entity, variables); });
     m_filter->clear();
     m_workspace.selection->setVariables(copies, copies.value(0));
 }

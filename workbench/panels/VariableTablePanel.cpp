@@ -118,8 +118,8 @@ void VariableTablePanel::connectModel()
         if (fields == 0)
             return;
         TDcEntity *entity = m_workspace.selection->entity();
-        m_workspace.document->commit(fields == 1 ? tr("import of a field") : tr("import of %L1 fields").arg(fields),
-                                     entity);
+        m_workspace.document->commit(
+            fields == 1 ? tr("import of a field") : tr("import of %L1 fields").arg(fields), entity);
         TDcVariable *last = entity->getVariables()->isEmpty() ? nullptr : entity->getVariables()->last();
         m_workspace.selection->select(entity, last);
         showSelection();
@@ -194,5 +194,6 @@ void VariableTablePanel::updateCount()
 {
     const int all = m_model ? m_model->rowCount() : 0;
     const int shown = m_proxy->rowCount();
-    m_count->setText(shown == all ? tr("Variables: %L1").arg(all) : tr("Variables: %L1 of %L2").arg(shown).arg(all));
+    m_count->setText(shown == all ? tr("Variables: %L1").arg(all)
+                                  : tr("Variables: %L1 of %L2").arg(shown).arg(all));
 }

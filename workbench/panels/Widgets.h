@@ -19,7 +19,8 @@ namespace Widgets
 [[nodiscard]] QToolButton *button(QAction *action, QWidget *parent);
 /// A line to type a filter into, with a button that clears it. \a name is what it is called aloud.
 [[nodiscard]] QLineEdit *filterField(const QString &name, const QString &placeholder, QWidget *parent);
-/// An area in which \a form scrolls up and down where it is too high. Its controls take the focus, it does not.
+/// An area in which \a form scrolls up and down where it is too high. Its controls take the focus, it does
+/// not.
 [[nodiscard]] QWidget *scrolled(QWidget *form, QWidget *parent);
 /// Sets up a table of rows: whole rows are selected, a click on a header sorts, a third one stops sorting.
 void setUpTable(QTableView *table, const QString &name);

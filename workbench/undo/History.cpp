@@ -29,11 +29,8 @@ class History::Step : public QUndoCommand
 {
 public:
     Step(History &history, DictionaryDifference difference, Rows rows, Extent extent, const QString &text)
-        : QUndoCommand(text),
-          m_history(history),
-          m_difference(std::move(difference)),
-          m_rows(std::move(rows)),
-          m_extent(extent)
+        : QUndoCommand(text), m_history(history), m_difference(std::move(difference)),
+          m_rows(std::move(rows)), m_extent(extent)
     {
     }
 
@@ -75,7 +72,8 @@ bool History::record(TDcEntity &root, const QString &text, TDcEntity *entity)
         return false;
     const QList<DictionaryChange> changes = difference.changes();
     difference.apply(*before);
-    m_stack->push(new Step(*this, difference, rows, extentOf(changes), text.isEmpty() ? describe(changes) : text));
+    m_stack->push(
+        new Step(*this, difference, rows, extentOf(changes), text.isEmpty() ? describe(changes) : text));
     return true;
 }
 
