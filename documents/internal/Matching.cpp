@@ -183,7 +183,7 @@ private:
         }
     }
 
-    QList<TDcEntity *> free(const QList<TDcEntity *> &before) const
+    [[nodiscard]] QList<TDcEntity *> free(const QList<TDcEntity *> &before) const
     {
         QList<TDcEntity *> found;
         std::copy_if(before.cbegin(), before.cend(), std::back_inserter(found),
@@ -191,7 +191,7 @@ private:
         return found;
     }
 
-    QList<TDcEntity *> open(const QList<TDcEntity *> &after) const
+    [[nodiscard]] QList<TDcEntity *> open(const QList<TDcEntity *> &after) const
     {
         QList<TDcEntity *> found;
         std::copy_if(after.cbegin(), after.cend(), std::back_inserter(found),

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QSet>
 
+#include <algorithm>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -119,9 +120,8 @@ SourceAreaUnits AreaUnitFile::read(const QString &path, const SourceOptions &opt
     if (!result.ok())
         return result;
 
-    std::vector<SelectionTreeUnit *> units;
-    for (const Row &row : rows)
-        units.push_back(row.unit.get());
+    std::vector<SelectionTreeUnit *> units(rows.size());
+    std::transform(rows.cbegin(), rows.cend(), units.begin(), [](const Row &row) { return row.unit.get(); });
     for (size_t i = 0; i < rows.size(); ++i) {
         const qsizetype parent = parents.at(qsizetype(i));
         auto *list = parent < 0 ? result.list() : units[size_t(parent)]->getChildren();

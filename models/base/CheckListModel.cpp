@@ -22,8 +22,8 @@ bool isCheckBox(const QModelIndex &index, int role)
 }
 } // namespace
 
-CheckListModel::CheckListModel(QObject *parent, const QList<TDcVariable *> &variables, int columns)
-    : RowListModel(parent), m_columns(columns)
+CheckListModel::CheckListModel(QObject *parent, const QList<TDcVariable *> &variables, int shownColumns)
+    : RowListModel(parent), m_columns(shownColumns)
 {
     // One row is announced whatever their number: nobody can listen yet.
     beginInsertRows({}, 0, 0);

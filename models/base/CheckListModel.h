@@ -23,8 +23,8 @@ public:
     [[nodiscard]] QVariant getItemData(TDcVariable *variable, int column) const;
 
 protected:
-    /// Shows \a variables in the first \a columns of name, label, alias, group and tag.
-    CheckListModel(QObject *parent, const QList<TDcVariable *> &variables, int columns);
+    /// Shows \a variables in the first \a shownColumns of name, label, alias, group and tag.
+    CheckListModel(QObject *parent, const QList<TDcVariable *> &variables, int shownColumns);
 
     /// The entries of \a variables that have no role in \a entity: not its reference code, reference label or
     /// weight.

@@ -82,7 +82,7 @@ QString keysOf(const QJsonObject &entity)
 {
     QStringList children;
     const QJsonArray entities = entity.value(u"entities"_s).toArray();
-    for (const QJsonValue &child : entities)
+    for (const auto &child : entities)
         children.append(u'(' + keysOf(child.toObject()) + u')');
     return entity.keys().join(u' ') + children.join(QString());
 }

@@ -259,7 +259,7 @@ private Q_SLOTS:
     void exceptionsReachTheCaller()
     {
         QFETCH(QVariantMap, document);
-        QVERIFY_EXCEPTION_THROWN(imported(document), std::runtime_error);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, imported(document));
     }
 
     void isCopyableAndMovable()
@@ -267,7 +267,7 @@ private Q_SLOTS:
         RunCreationBusiness business;
         RunCreationBusiness other;
         other = business;
-        other = std::move(business);
+        other = RunCreationBusiness();
         Config config;
         QCOMPARE(RunCreationBusiness(other).exportConfigToJson(&config).object().size(), 4);
     }

@@ -40,7 +40,7 @@ public:
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
 
     /// Writes a file and returns its path.
-    QString write(const QString &name, const QByteArray &content) const
+    [[nodiscard]] QString write(const QString &name, const QByteArray &content) const
     {
         QFile file(path(name));
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())

@@ -99,7 +99,7 @@ QString CsvDialect::detect(QFile &file, const SourceOptions &options)
     const QByteArray sample = file.read(SampleSize);
     encoding = options.encoding.toLatin1();
     if (encoding.isEmpty()) {
-        if (const QString problem = detectEncoding(file, sample); !problem.isEmpty())
+        if (QString problem = detectEncoding(file, sample); !problem.isEmpty())
             return problem;
     }
     QStringDecoder decoder(encoding.constData());
