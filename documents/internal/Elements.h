@@ -22,7 +22,8 @@ enum class Form { Element, Single };
     if (value.typeId() != QMetaType::QString)
         return value.toList();
     QVariantList characters;
-    for (const QChar character : value.toString())
+    const QString text = value.toString();
+    for (const QChar character : text)
         characters.append(QString(character));
     return characters;
 }

@@ -99,8 +99,8 @@ public:
         gather(before, m_before);
         gather(after, m_after);
         pairEverywhere([](const TDcEntity &entity) { return told(entity.getName()); });
-        for (qsizetype i = 0; i < m_after.size(); ++i)
-            pairRenamedChildren(m_after.at(i));
+        for (const auto *entity : std::as_const(m_after))
+            pairRenamedChildren(entity);
         pairEverywhere(variableNamesOf);
         return m_peers;
     }

@@ -76,7 +76,7 @@ QList<int> chapterPages(const QTextDocument &document, qsizetype chapters)
             const QStringList names = fragment.fragment().charFormat().anchorNames();
             for (const QString &name : names) {
                 if (name.startsWith(ChapterAnchor))
-                    pages[name.mid(ChapterAnchor.size()).toInt() - 1] =
+                    pages[QStringView(name).mid(ChapterAnchor.size()).toInt() - 1] =
                         int(document.documentLayout()->blockBoundingRect(block).top() / height) + 1;
             }
         }

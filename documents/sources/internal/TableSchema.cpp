@@ -10,6 +10,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace
@@ -90,7 +92,8 @@ private:
         if (!resources.isArray() || resources.toArray().isEmpty())
             return fail(u"resources"_s, tr("A data package must list its resources."));
         int number = 0;
-        for (const QJsonValue resource : resources.toArray()) {
+        const QJsonArray list = resources.toArray();
+        for (const auto &resource : list) {
             ++number;
             const QString name = resource[u"name"_s].toString();
             const QString place =
@@ -125,7 +128,8 @@ private:
         if (!fields.isArray())
             return fail(place, tr("A table schema must list its fields."));
         int position = 0;
-        for (const QJsonValue field : fields.toArray()) {
+        const QJsonArray list = fields.toArray();
+        for (const auto &field : list) {
             const QString name = field[u"name"_s].toString();
             if (name.isEmpty())
                 return fail(tr("%1, field %2").arg(place).arg(position + 1), tr("A field must have a name."));
@@ -157,11 +161,12 @@ private:
                                           "categories.")
                                            .arg(codeOf(entry))});
         };
-        for (const QJsonValue entry : json[u"categories"_s].toArray())
-            addCategory(entry);
+        const QJsonArray categories = json[u"categories"_s].toArray();
+        std::for_each(categories.begin(), categories.end(), addCategory);
         // What the field says itself stands instead of what the schema says for all.
         const QJsonValue ownMissing = json[u"missingValues"_s];
-        for (const QJsonValue entry : (ownMissing.isArray() ? ownMissing : schemaMissing).toArray()) {
+        const QJsonArray missing = (ownMissing.isArray() ? ownMissing : schemaMissing).toArray();
+        for (const auto &entry : missing) {
             FieldText::appendCode(field->missing, codeOf(entry));
             if (!entry[u"label"_s].toString().isEmpty())
                 addCategory(entry);
