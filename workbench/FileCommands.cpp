@@ -3,6 +3,7 @@
 #include "common/Constants.h"
 #include "workbench/Actions.h"
 #include "workbench/Document.h"
+#include "workbench/FileDialogs.h"
 
 #include <QAction>
 #include <QDir>
@@ -11,22 +12,8 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSettings>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace
-{
-QString lastFolder()
-{
-    return QSettings().value(u"lastFolder"_s, QDir::homePath()).toString();
-}
-
-void rememberFolder(const QString &path)
-{
-    QSettings().setValue(u"lastFolder"_s, QFileInfo(path).absolutePath());
-}
-} // namespace
 
 FileCommands::FileCommands(const Workspace &workspace, QObject *parent)
     : QObject(parent), m_workspace(workspace)
@@ -92,8 +79,9 @@ void FileCommands::create()
 
 void FileCommands::chooseAndOpen()
 {
-    const QString path = QFileDialog::getOpenFileName(m_workspace.window, tr("Open Dictionary"), lastFolder(),
-                                                      Constants::dictionaryFilter + tr("All files (*)"));
+    const QString path =
+        QFileDialog::getOpenFileName(m_workspace.window, tr("Open Dictionary"), FileDialogs::lastFolder(),
+                                     Constants::dictionaryFilter + tr("All files (*)"));
     if (!path.isEmpty())
         open(path);
 }
@@ -104,11 +92,11 @@ bool FileCommands::open(const QString &path)
         return false;
     if (!m_workspace.document->open(path)) {
         RecentFiles::remove(QFileInfo(path).absoluteFilePath());
-        showError(tr("“%1” cannot be opened.").arg(QDir::toNativeSeparators(path)));
+        FileDialogs::showCannotOpen(m_workspace.window, path, m_workspace.document->errorText());
         return false;
     }
     RecentFiles::add(path);
-    rememberFolder(path);
+    FileDialogs::rememberFolder(path);
     return true;
 }
 
@@ -122,7 +110,7 @@ bool FileCommands::saveAs()
 {
     const QString path = m_workspace.document->path();
     const QString proposal = path.isEmpty()
-        ? QDir(lastFolder()).filePath(tr("dictionary") + Constants::dictionaryExtension)
+        ? QDir(FileDialogs::lastFolder()).filePath(tr("dictionary") + Constants::dictionaryExtension)
         : path;
     QFileDialog dialog(m_workspace.window, tr("Save Dictionary As"), {},
                        Constants::dictionaryFilter + tr("All files (*)"));
@@ -134,38 +122,15 @@ bool FileCommands::saveAs()
 
 bool FileCommands::saveTo(const QString &path)
 {
-    DocumentFile::SaveOptions options;
-    while (!m_workspace.document->save(path, options)) {
-        const DocumentFile::SaveOptions more = confirmSaving();
-        if ((options | more) == options)
-            return false;
-        options |= more;
-    }
-    RecentFiles::add(path);
-    rememberFolder(path);
-    return true;
-}
-
-DocumentFile::SaveOptions FileCommands::confirmSaving()
-{
     Document &document = *m_workspace.document;
-    const bool losing = document.error() == DocumentFile::Error::LosesContent;
-    if (!losing && document.error() != DocumentFile::Error::ChangedByOthers) {
-        showError(tr("“%1” cannot be saved.").arg(document.title()));
-        return {};
-    }
-    QMessageBox box(QMessageBox::Warning, tr("Save"), document.errorText(), QMessageBox::Cancel,
-                    m_workspace.window);
-    box.setTextFormat(Qt::PlainText);
-    if (losing)
-        box.setDetailedText(document.losses().join(u'\n'));
-    const QAbstractButton *yes =
-        box.addButton(losing ? tr("Save Anyway") : tr("Overwrite"), QMessageBox::AcceptRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    if (box.clickedButton() != yes)
-        return {};
-    return losing ? DocumentFile::AcceptLosses : DocumentFile::OverwriteOthersChanges;
+    const auto attempt = [&](DocumentFile::SaveOptions options) {
+        return document.save(path, options) ? std::nullopt : std::optional(FileDialogs::problemOf(document));
+    };
+    if (!FileDialogs::save(m_workspace.window, document.title(), attempt))
+        return false;
+    RecentFiles::add(path);
+    FileDialogs::rememberFolder(path);
+    return true;
 }
 
 void FileCommands::revert()
@@ -180,14 +145,5 @@ void FileCommands::revert()
     box.exec();
     const QString path = m_workspace.document->path();
     if (box.clickedButton() == yes && !m_workspace.document->open(path))
-        showError(tr("“%1” cannot be opened.").arg(QDir::toNativeSeparators(path)));
-}
-
-void FileCommands::showError(const QString &text)
-{
-    QMessageBox box(QMessageBox::Critical, tr("Quillon Workbench"), text, QMessageBox::Ok,
-                    m_workspace.window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(m_workspace.document->errorText());
-    box.exec();
+        FileDialogs::showCannotOpen(m_workspace.window, path, m_workspace.document->errorText());
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "documents/DocumentFile.h"
 #include "workbench/RecentFiles.h"
 #include "workbench/Workspace.h"
 
@@ -28,11 +27,8 @@ private:
     bool save();
     bool saveAs();
     bool saveTo(const QString &path);
-    /// Asks whether to save in spite of what hinders it, or says that it cannot be done.
-    [[nodiscard]] DocumentFile::SaveOptions confirmSaving();
     void revert();
     void addRecentMenu();
-    void showError(const QString &text);
     void updateActions();
 
     Workspace m_workspace;
