@@ -31,20 +31,27 @@ function(quillon_add_library target)
         FILE_SET generated DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/Quillon")
 endfunction()
 
-# quillon_add_test(<name> [SOURCE_TREE] [SOURCES ...] [LINKS ...])
+# quillon_add_test(<name> [SOURCE_TREE] [X_DISPLAY] [SOURCES ...] [LINKS ...])
 #
 # A Qt Test program from <name>.cpp in the current folder. Tests run without a display and with a fixed
 # locale; what they need besides stands in tests/support. With SOURCE_TREE the program knows the folder of the
-# sources as QUILLON_SOURCE_DIR; without it two checkouts share what they compile.
+# sources as QUILLON_SOURCE_DIR; without it two checkouts share what they compile. With X_DISPLAY the program
+# gets an X server of its own, whose pointer and keyboard it can use.
 function(quillon_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 ARG "SOURCE_TREE" "" "SOURCES;LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "SOURCE_TREE;X_DISPLAY" "" "SOURCES;LINKS")
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} quillon_test_support Qt6::Test)
     if(ARG_SOURCE_TREE)
         target_compile_definitions(${name} PRIVATE QUILLON_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     endif()
-    add_test(NAME ${name} COMMAND ${name})
+    set(platform offscreen)
+    set(display)
+    if(ARG_X_DISPLAY)
+        set(platform xcb)
+        set(display xvfb-run --auto-servernum "--server-args=-screen 0 1400x900x24")
+    endif()
+    add_test(NAME ${name} COMMAND ${display} "$<TARGET_FILE:${name}>")
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1")
+        "QT_QPA_PLATFORM=${platform};LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()

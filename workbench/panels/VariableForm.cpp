@@ -89,9 +89,9 @@ void VariableForm::build()
     const auto column = [this](Column number) {
         return [this, number](const QString &text) { setColumn(number, text); };
     };
-    m_form->addRow(tr("&Name"), m_form->text(tr("Name"), get<&V::getName>(), column(Name)));
-    m_form->addRow(tr("Alia&s"), m_form->text(tr("Alias"), get<&V::getAlias>(), column(Alias)));
-    m_form->addRow(tr("&Label"), m_form->text(tr("Label"), get<&V::getLabel>(), column(Label)));
+    m_form->addRow(tr("N&ame"), m_form->text(tr("Name"), get<&V::getName>(), column(Name)));
+    m_form->addRow(tr("Al&ias"), m_form->text(tr("Alias"), get<&V::getAlias>(), column(Alias)));
+    m_form->addRow(tr("La&bel"), m_form->text(tr("Label"), get<&V::getLabel>(), column(Label)));
     m_form->addRow(tr("&Group"), m_form->text(tr("Group"), get<&V::getGroup>(), column(Group)));
     m_form->addRow(
         tr("T&ype"),
@@ -135,7 +135,7 @@ void VariableForm::buildLayout()
     m_form->addRow({},
                    m_form->check(tr("Lookup"), getLayout<&M::getLookup>(), setLayout<&M::setLookup, bool>()),
                    {}, m_form->check(tr("Local"), get<&V::getLocal>(), set<&V::setLocal, bool>()));
-    m_form->addRow(tr("&Notes"),
+    m_form->addRow(tr("N&otes"),
                    m_form->longText(tr("Documentation"), get<&V::getDocumentation>(),
                                     set<&V::setDocumentation, QString>()));
 }

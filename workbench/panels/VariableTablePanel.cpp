@@ -185,8 +185,10 @@ void VariableTablePanel::setFilter(const QString &text)
     static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(
         filtered ? tr("No variable matches the filter.")
                  : tr("No variables to show. Add one, or drag fields here from the sources below."));
-    if (!m_view->currentIndex().isValid() && m_proxy->rowCount() > 0)
-        m_view->selectRow(0);
+    // What was selected may be out of sight now. Somebody who types and then presses Tab works on what is
+    // left.
+    if (!m_view->selectionModel()->hasSelection() && m_proxy->rowCount() > 0)
+        m_view->selectRow(qMax(0, m_view->currentIndex().row()));
     updateCount();
 }
 
