@@ -227,6 +227,13 @@ QList<Row> table()
          TEXT("Add Selected Fields to &Entity"),
          TEXT("Make a variable of each selected field, as dragging them onto the table does")},
 
+        {ToolsCheck, MenuId::Tools, GroupStart, "48px-Morvachecklist", "F7", TEXT("&Check Now"),
+         TEXT("Look for what is wrong in the dictionary")},
+        {ToolsNextProblem, MenuId::Tools, MenuOnly, "48px-next", "F8", TEXT("&Next Problem"),
+         TEXT("Go to the place of the next problem")},
+        {ToolsPreviousProblem, MenuId::Tools, MenuOnly, "48px-previous", "Shift+F8",
+         TEXT("&Previous Problem"), TEXT("Go to the place of the problem before")},
+
         {HelpAbout,
          MenuId::Help,
          MenuOnly,

@@ -45,6 +45,9 @@ enum class ActionId {
     SourceOpenCsv,
     SourceOpenLookups,
     SourceAppend,
+    ToolsCheck,
+    ToolsNextProblem,
+    ToolsPreviousProblem,
     HelpAbout,
 };
 

@@ -1,5 +1,6 @@
 #include "workbench/MainWindow.h"
 
+#include "workbench/CheckCommands.h"
 #include "workbench/FileCommands.h"
 #include "workbench/panels/EntityForm.h"
 #include "workbench/panels/EntityTreePanel.h"
@@ -67,20 +68,36 @@ void MainWindow::addPanels()
         addDock(tr("Entities"), u"entities"_s, new EntityTreePanel(workspace, this), Qt::LeftDockWidgetArea);
     QDockWidget *entity =
         addDock(tr("Entity"), u"entity"_s, new EntityForm(workspace, this), Qt::LeftDockWidgetArea);
-    QDockWidget *inspector =
-        addDock(tr("Variable"), u"variable"_s, new Inspector(workspace, this), Qt::RightDockWidgetArea);
+    auto *inspectorPanel = new Inspector(workspace, this);
+    QDockWidget *inspector = addDock(tr("Variable"), u"variable"_s, inspectorPanel, Qt::RightDockWidgetArea);
     auto *sourcesPanel = new SourcesPanel(workspace, this);
     new SourceCommands(workspace, sourcesPanel, this);
     connect(sourcesPanel, &SourcesPanel::chosen, table, &VariableTablePanel::importFields);
     QDockWidget *sources = addDock(tr("Sources"), u"sources"_s, sourcesPanel, Qt::BottomDockWidgetArea);
-    QDockWidget *problems =
-        addDock(tr("Problems"), u"problems"_s, new ProblemsPanel(workspace, this), Qt::BottomDockWidgetArea);
+    QDockWidget *problems = addProblems(workspace, inspectorPanel);
     tabifyDockWidget(sources, problems);
     sources->raise();
     resizeDocks({tree, inspector}, {250, 340}, Qt::Horizontal);
     resizeDocks({tree, entity}, {260, 340}, Qt::Vertical);
     resizeDocks({sources}, {210}, Qt::Vertical);
     table->view()->setFocus();
+}
+
+QDockWidget *MainWindow::addProblems(const Workspace &workspace, Inspector *inspector)
+{
+    auto *panel = new ProblemsPanel(this);
+    QDockWidget *dock = addDock(tr("Problems"), u"problems"_s, panel, Qt::BottomDockWidgetArea);
+    connect(panel, &ProblemsPanel::countChanged, dock, [dock](qsizetype count) {
+        dock->setWindowTitle(count > 0 ? tr("Problems (%L1)").arg(count) : tr("Problems"));
+    });
+    auto *checks = new CheckCommands(workspace, panel, panel);
+    connect(checks, &CheckCommands::itemChosen, inspector, &Inspector::showItem);
+    connect(m_actions[ActionId::ToolsCheck], &QAction::triggered, dock, [dock, panel] {
+        dock->show();
+        dock->raise();
+        panel->view()->setFocus();
+    });
+    return dock;
 }
 
 QDockWidget *MainWindow::addDock(const QString &title, const QString &objectName, QWidget *panel,

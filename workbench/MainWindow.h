@@ -8,6 +8,8 @@
 #include <QMainWindow>
 
 class FileCommands;
+class Inspector;
+struct Workspace;
 
 /// Makes the parts and wires them together; what they do stands in the parts.
 class MainWindow : public QMainWindow
@@ -36,6 +38,7 @@ private:
     void addPanels();
     QDockWidget *addDock(const QString &title, const QString &objectName, QWidget *panel,
                          Qt::DockWidgetArea area);
+    QDockWidget *addProblems(const Workspace &workspace, Inspector *inspector);
     void addUndo();
     void addAbout();
     void updateTitle();

@@ -4,13 +4,13 @@
 #include "documents/sources/SourceReader.h"
 #include "workbench/Actions.h"
 #include "workbench/panels/SourcesPanel.h"
+#include "workbench/Progress.h"
 
 #include <QAction>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QProgressDialog>
 #include <QSettings>
 
 #include <algorithm>
@@ -29,30 +29,13 @@ QString folderKey()
     return u"sourceFolder"_s;
 }
 
-/// Shows how far reading got and lets the person cancel it. Appears only when that takes a while.
-class Progress
+/// Options that show \a progress.
+SourceOptions optionsFor(Progress &progress)
 {
-public:
-    explicit Progress(QWidget *window)
-        : m_dialog(SourceCommands::tr("Reading the file…"), SourceCommands::tr("Cancel"), 0, 1000, window)
-    {
-        m_dialog.setWindowModality(Qt::WindowModal);
-        m_dialog.setMinimumDuration(700);
-    }
-
-    [[nodiscard]] SourceOptions options()
-    {
-        SourceOptions options;
-        options.progress = [this](double part) {
-            m_dialog.setValue(std::clamp(int(part * 1000), 0, 999));
-            return !m_dialog.wasCanceled();
-        };
-        return options;
-    }
-
-private:
-    QProgressDialog m_dialog;
-};
+    SourceOptions options;
+    options.progress = [&progress](double part) { return progress.show(part); };
+    return options;
+}
 } // namespace
 
 SourceCommands::SourceCommands(const Workspace &workspace, SourcesPanel *panel, QObject *parent)
@@ -82,8 +65,8 @@ void SourceCommands::choose(const QString &title, const QStringList &suffixes,
 
 bool SourceCommands::openDataset(const QString &path)
 {
-    Progress progress(m_workspace.window);
-    SourceFields result = SourceReader::read(path, progress.options());
+    Progress progress(tr("Reading the file…"), m_workspace.window);
+    SourceFields result = SourceReader::read(path, optionsFor(progress));
     if (!result.ok())
         return report(result.errors);
     m_panel->setDatasetFields(std::move(result.items));
@@ -92,8 +75,8 @@ bool SourceCommands::openDataset(const QString &path)
 
 bool SourceCommands::openCsv(const QString &path)
 {
-    Progress progress(m_workspace.window);
-    SourceFields result = SourceReader::read(path, progress.options());
+    Progress progress(tr("Reading the file…"), m_workspace.window);
+    SourceFields result = SourceReader::read(path, optionsFor(progress));
     if (!result.ok())
         return report(result.errors);
     m_panel->setCsvFields(std::move(result.items));
@@ -102,8 +85,8 @@ bool SourceCommands::openCsv(const QString &path)
 
 bool SourceCommands::openLookups(const QString &path)
 {
-    Progress progress(m_workspace.window);
-    SourceLookups result = LookupFile::read(path, progress.options());
+    Progress progress(tr("Reading the file…"), m_workspace.window);
+    SourceLookups result = LookupFile::read(path, optionsFor(progress));
     if (!result.ok())
         return report(result.errors);
     m_panel->setLookups(std::move(result.items));

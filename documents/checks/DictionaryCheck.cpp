@@ -1,58 +1,16 @@
 #include "documents/checks/DictionaryCheck.h"
 
+#include "documents/checks/CheckRun.h"
 #include "documents/checks/internal/Rules.h"
 
 #include <QStringList>
 
 #include <algorithm>
-#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-/// Gathers the entities without recursion: a chain of them may be deeper than the stack.
-Checks::Dictionary gather(TDcEntity *root)
-{
-    Checks::Dictionary dictionary;
-    std::vector<Checks::EntityNode> pending;
-    if (root)
-        pending.push_back({root, nullptr});
-    while (!pending.empty()) {
-        const Checks::EntityNode node = pending.back();
-        pending.pop_back();
-        const QString name = Checks::folded(node.entity->getName());
-        if (!name.isEmpty() && !dictionary.entityNames.contains(name))
-            dictionary.entityNames.insert(name, node.entity);
-        dictionary.entities.push_back(node);
-        const auto &children = *node.entity->getChildren();
-        std::for_each(children.crbegin(), children.crend(), [&](TDcEntity *child) {
-            if (child)
-                pending.push_back({child, &dictionary.entities.back()});
-        });
-    }
-    return dictionary;
-}
-
-Checks::Entity lookAt(const Checks::Dictionary &dictionary, const Checks::EntityNode &node)
-{
-    Checks::Entity entity{dictionary, node, {}, {}, {}};
-    const auto insertFirst = [](QHash<QString, TDcVariable *> &hash, const QString &text,
-                                TDcVariable *variable) {
-        const QString key = Checks::folded(text);
-        if (!key.isEmpty() && !hash.contains(key))
-            hash.insert(key, variable);
-    };
-    for (TDcVariable *variable : std::as_const(*node.entity->getVariables())) {
-        if (!variable)
-            continue;
-        entity.variables.append(variable);
-        insertFirst(entity.names, variable->getName(), variable);
-        insertFirst(entity.aliases, variable->getAlias(), variable);
-    }
-    return entity;
-}
-
 template <typename Subject>
 void appendRules(std::span<const Checks::Rule<Subject>> from, QList<CheckRule> &rules)
 {
@@ -64,20 +22,9 @@ void appendRules(std::span<const Checks::Rule<Subject>> from, QList<CheckRule> &
 
 QList<Finding> DictionaryCheck::check(TDcEntity *root)
 {
-    QList<Finding> findings;
-    const Checks::Dictionary dictionary = gather(root);
-    Checks::apply(Checks::dictionaryRules(), dictionary, findings);
-    for (const Checks::EntityNode &node : dictionary.entities) {
-        const Checks::Entity entity = lookAt(dictionary, node);
-        Checks::apply(Checks::entityRules(), entity, findings);
-        Checks::apply(Checks::entityNameRules(), entity, findings);
-        for (TDcVariable *item : entity.variables) {
-            const Checks::Variable variable{entity, *item, TypeWord(item->getVarType())};
-            Checks::apply(Checks::variableRules(), variable, findings);
-            Checks::apply(Checks::valueRules(), variable, findings);
-        }
-    }
-    return findings;
+    CheckRun run(root);
+    run.advance();
+    return run.findings();
 }
 
 QString DictionaryCheck::summary(const QList<Finding> &findings)

@@ -12,6 +12,7 @@ class EmptyText : public View
 public:
     using View::View;
 
+    [[nodiscard]] const QString &emptyText() const { return m_text; }
     void setEmptyText(const QString &text)
     {
         m_text = text;

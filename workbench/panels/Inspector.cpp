@@ -14,3 +14,9 @@ Inspector::Inspector(const Workspace &workspace, QWidget *parent)
     addWidget(m_ranges);
     setSizes({360, 180, 120});
 }
+
+void Inspector::showItem(void *item)
+{
+    m_valueLabels->select({item});
+    m_ranges->select({item});
+}

@@ -20,6 +20,10 @@ public:
     [[nodiscard]] ValueLabelsPanel *valueLabels() const { return m_valueLabels; }
     [[nodiscard]] RangesPanel *ranges() const { return m_ranges; }
 
+    /// Makes the value label or range at \a item current, if the variable has it. The address is only
+    /// compared.
+    void showItem(void *item);
+
 private:
     VariableForm *m_form;
     ValueLabelsPanel *m_valueLabels;

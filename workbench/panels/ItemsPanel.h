@@ -27,6 +27,8 @@ public:
     };
 
     [[nodiscard]] QTableView *view() const { return m_view; }
+    /// Selects the rows of \a items, as far as they are there. Addresses are only compared.
+    void select(const QList<void *> &items);
 
 protected:
     ItemsPanel(const Workspace &workspace, const QString &title, QSortFilterProxyModel *proxy,
@@ -56,7 +58,6 @@ private:
     void refresh();
     [[nodiscard]] QString stepText(ActionId action) const;
     [[nodiscard]] QList<void *> selected() const;
-    void select(const QList<void *> &items);
 
     Buttons m_buttons;
     QLabel *m_title;

@@ -1,64 +1,133 @@
 #include "workbench/panels/ProblemsPanel.h"
 
-#include "common/IconPaths.h"
+#include "documents/checks/DictionaryCheck.h"
 #include "workbench/panels/EmptyText.h"
+#include "workbench/panels/FindingsModel.h"
 #include "workbench/panels/Widgets.h"
-#include "workbench/Selection.h"
 
-#include <QIcon>
-#include <QStandardItemModel>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QVBoxLayout>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
-enum Column { Message, Place, Suggestion };
-
-QIcon icon(Problem::Severity severity)
+/// Rows of a least severity.
+class SeverityProxy : public QSortFilterProxyModel
 {
-    switch (severity) {
-    case Problem::Severity::Error:
-        return QIcon(IconPaths::icon48(QLatin1StringView("Error")));
-    case Problem::Severity::Warning:
-        return QIcon(IconPaths::icon48(QLatin1StringView("Warning")));
-    case Problem::Severity::Note:
-        return QIcon(IconPaths::nodeInformation);
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void setLeast(Severity least)
+    {
+        m_least = least;
+        invalidateFilter();
     }
-    Q_UNREACHABLE();
-}
+
+protected:
+    [[nodiscard]] bool filterAcceptsRow(int row, const QModelIndex &) const override
+    {
+        return static_cast<const FindingsModel *>(sourceModel())->at(row).severity >= m_least;
+    }
+
+private:
+    Severity m_least = Severity::Note;
+};
 } // namespace
 
-ProblemsPanel::ProblemsPanel(const Workspace &workspace, QWidget *parent)
-    : QWidget(parent), m_model(new QStandardItemModel(this))
+ProblemsPanel::ProblemsPanel(QWidget *parent)
+    : QWidget(parent), m_model(new FindingsModel(this)), m_proxy(new SeverityProxy(this)),
+      m_summary(new QLabel(this)), m_severities(new QComboBox(this)), m_view(new EmptyText<QTableView>(this))
 {
-    auto *table = new EmptyText<QTableView>(this);
-    table->setEmptyText(tr("No problems found."));
-    m_view = table;
-    m_view->setModel(m_model);
-    Widgets::setUpTable(m_view, tr("Problems"));
-    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_view);
-    setProblems({});
+    m_severities->addItem(tr("Everything"), int(Severity::Note));
+    m_severities->addItem(tr("Warnings and errors"), int(Severity::Warning));
+    m_severities->addItem(tr("Errors only"), int(Severity::Error));
+    m_severities->setAccessibleName(tr("Problems to show"));
+    m_severities->view()->setAccessibleName(tr("Problems to show"));
+    auto *caption = new QLabel(tr("S&how:"), this);
+    caption->setBuddy(m_severities);
 
-    connect(m_view, &QAbstractItemView::activated, this,
-            [this, selection = workspace.selection](const QModelIndex &index) {
-                selection->select(m_model->index(index.row(), Place).data().toString());
-            });
+    Widgets::setUpTable(m_view, tr("Problems"));
+    m_proxy->setSortRole(FindingsModel::SortRole);
+    m_proxy->setSortCaseSensitivity(Qt::CaseInsensitive);
+    m_proxy->setSourceModel(m_model);
+    m_view->setModel(m_proxy);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setColumnWidth(FindingsModel::SeverityColumn, 110);
+    m_view->setColumnWidth(FindingsModel::ProblemColumn, 420);
+    m_view->setColumnWidth(FindingsModel::PlaceColumn, 220);
+
+    auto *bar = new QHBoxLayout;
+    bar->addWidget(m_summary, 1);
+    bar->addWidget(caption);
+    bar->addWidget(m_severities);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addLayout(bar);
+    layout->addWidget(m_view);
+
+    connect(m_view, &QAbstractItemView::activated, this, &ProblemsPanel::choose);
+    connect(m_severities, &QComboBox::currentIndexChanged, this, &ProblemsPanel::filter);
+    updateEmptyText();
 }
 
-void ProblemsPanel::setProblems(const QList<Problem> &problems)
+void ProblemsPanel::setFindings(const QList<Finding> &findings)
 {
-    m_model->clear();
-    m_model->setHorizontalHeaderLabels({tr("Problem"), tr("Place"), tr("Suggestion")});
-    for (const Problem &problem : problems) {
-        auto *message = new QStandardItem(icon(problem.severity), problem.message);
-        message->setToolTip(problem.message);
-        m_model->appendRow({message, new QStandardItem(problem.path), new QStandardItem(problem.suggestion)});
+    const QModelIndex current = m_view->currentIndex();
+    const int row = current.row();
+    const auto before =
+        current.isValid() ? std::optional(m_model->at(m_proxy->mapToSource(current).row())) : std::nullopt;
+    m_model->setFindings(findings);
+    if (m_proxy->rowCount() > 0 && !m_view->currentIndex().isValid()) {
+        const QModelIndex same =
+            m_proxy->mapFromSource(m_model->index(before ? m_model->rowOf(*before) : -1, 0));
+        // What was mended is gone; the next problem stands in its row.
+        m_view->selectRow(same.isValid() ? same.row() : qBound(0, row, m_proxy->rowCount() - 1));
     }
-    m_view->setColumnWidth(Message, 460);
-    m_view->setColumnWidth(Place, 200);
-    if (!problems.isEmpty())
+    m_summary->setText(findings.isEmpty() ? QString() : DictionaryCheck::summary(findings));
+    updateEmptyText();
+    Q_EMIT countChanged(findings.size());
+}
+
+void ProblemsPanel::setChecking(bool checking)
+{
+    m_checking = checking;
+    updateEmptyText();
+}
+
+void ProblemsPanel::filter()
+{
+    static_cast<SeverityProxy *>(m_proxy)->setLeast(Severity(m_severities->currentData().toInt()));
+    if (m_proxy->rowCount() > 0 && !m_view->currentIndex().isValid())
         m_view->selectRow(0);
+    updateEmptyText();
+}
+
+void ProblemsPanel::updateEmptyText()
+{
+    static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(m_checking ? tr("Looking for problems…")
+                                                                   : m_model->rowCount() > 0
+                                                                   ? tr("No problems of this severity.")
+                                                                   : DictionaryCheck::summary({}));
+}
+
+void ProblemsPanel::choose(const QModelIndex &index)
+{
+    Q_EMIT chosen(m_model->at(m_proxy->mapToSource(index).row()));
+}
+
+void ProblemsPanel::step(bool forward)
+{
+    const int count = m_proxy->rowCount();
+    if (count == 0)
+        return;
+    const int row = m_view->currentIndex().row();
+    const int next = forward ? row + 1 : (row > 0 ? row : count) - 1;
+    m_view->selectRow(next % count);
+    choose(m_view->currentIndex());
 }

@@ -1,36 +1,50 @@
 #pragma once
 
-#include "workbench/Workspace.h"
+#include "documents/checks/Finding.h"
 
 #include <QList>
-#include <QString>
 #include <QWidget>
 
-class QStandardItemModel;
+class FindingsModel;
+class QComboBox;
+class QLabel;
+class QSortFilterProxyModel;
 class QTableView;
 
-/// Something in the dictionary that deserves a look.
-struct Problem {
-    enum class Severity { Error, Warning, Note };
-
-    Severity severity = Severity::Warning;
-    QString path; ///< "ENTITY" or "ENTITY/VARIABLE", as Selection::select() takes it.
-    QString message;
-    QString suggestion; ///< What to do about it; may be empty.
-};
-
-/// What the checks found. Activating a row shows the place in the other panels.
+/// What the checks found: a table to sort and to filter by severity. Whoever shows the places of the
+/// dictionary listens to chosen().
 class ProblemsPanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ProblemsPanel(const Workspace &workspace, QWidget *parent = nullptr);
+    explicit ProblemsPanel(QWidget *parent = nullptr);
 
     [[nodiscard]] QTableView *view() const { return m_view; }
-    void setProblems(const QList<Problem> &problems);
+    /// Chooses the least severity that is shown.
+    [[nodiscard]] QComboBox *severities() const { return m_severities; }
+    /// Shows \a findings; the current row stays on the same problem where it can.
+    void setFindings(const QList<Finding> &findings);
+    /// Says so where the table would be empty.
+    void setChecking(bool checking);
+    /// Goes to the next shown problem, or to the one before, and chooses it; goes around at the ends.
+    void step(bool forward);
+
+Q_SIGNALS:
+    /// The person wants to see the place of \a finding, whose objects may be gone by now.
+    void chosen(const Finding &finding);
+    /// There are \a count problems, shown or not.
+    void countChanged(qsizetype count);
 
 private:
+    void filter();
+    void choose(const QModelIndex &index);
+    void updateEmptyText();
+
+    FindingsModel *m_model;
+    QSortFilterProxyModel *m_proxy;
+    QLabel *m_summary;
+    QComboBox *m_severities;
     QTableView *m_view;
-    QStandardItemModel *m_model;
+    bool m_checking = false;
 };

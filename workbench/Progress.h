@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QProgressDialog>
+
+/// Tells the person that something takes its time, and lets them cancel it. Shows nothing of what is done
+/// within about a second.
+class Progress
+{
+public:
+    /// \a text says what is done; \a window is the parent of the dialog and may be null.
+    Progress(const QString &text, QWidget *window);
+
+    /// For work that is done in the person's sight: shows that \a part of it is done, from 0 to 1. False when
+    /// it was cancelled. Lets the window live.
+    bool show(double part);
+
+private:
+    QProgressDialog m_dialog;
+};
