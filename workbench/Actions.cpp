@@ -24,7 +24,12 @@ struct Keys {
 
 enum Place { MenuOnly, ToolBar, GroupStart, ToolBarGroup };
 
-struct Row {
+constexpr MenuId menuOrder[] = {MenuId::File,     MenuId::Edit,   MenuId::Entity,
+                                MenuId::Variable, MenuId::Values, MenuId::Sources,
+                                MenuId::Tools,    MenuId::View,   MenuId::Help};
+} // namespace
+
+struct Actions::Row {
     ActionId id;
     MenuId menu;
     Place place; ///< GroupStart and ToolBarGroup: a separator stands before it.
@@ -34,10 +39,10 @@ struct Row {
     const char *tip;
 };
 
-#define TEXT(text) QT_TRANSLATE_NOOP("Actions", text)
+#define TEXT(text) QT_TR_NOOP(text) // lupdate is told of it.
 
 /// One line an action. Menus and tool bar show them in this order.
-QList<Row> table()
+QList<Actions::Row> Actions::table()
 {
     using enum ActionId;
     return {
@@ -233,6 +238,16 @@ QList<Row> table()
          TEXT("Go to the place of the next problem")},
         {ToolsPreviousProblem, MenuId::Tools, MenuOnly, "48px-previous", "Shift+F8",
          TEXT("&Previous Problem"), TEXT("Go to the place of the problem before")},
+        {ToolsExpression, MenuId::Tools, GroupStart, "48px-Fx-Expressions", "Ctrl+Shift+E",
+         TEXT("Build &Expression…"),
+         TEXT("Put an expression together from entities, variables and categories")},
+        {ToolsAreas,
+         MenuId::Tools,
+         MenuOnly,
+         "48px-File-selections",
+         {},
+         TEXT("Select &Areas…"),
+         TEXT("Select area units of a file")},
 
         {HelpAbout,
          MenuId::Help,
@@ -244,7 +259,7 @@ QList<Row> table()
     };
 }
 
-const char *menuTitle(MenuId id)
+const char *Actions::menuTitle(MenuId id)
 {
     switch (id) {
     case MenuId::File:
@@ -268,11 +283,6 @@ const char *menuTitle(MenuId id)
     }
     Q_UNREACHABLE();
 }
-
-constexpr MenuId menuOrder[] = {MenuId::File,     MenuId::Edit,   MenuId::Entity,
-                                MenuId::Variable, MenuId::Values, MenuId::Sources,
-                                MenuId::Tools,    MenuId::View,   MenuId::Help};
-} // namespace
 
 Actions::Actions(QObject *parent) : QObject(parent)
 {

@@ -48,6 +48,8 @@ enum class ActionId {
     ToolsCheck,
     ToolsNextProblem,
     ToolsPreviousProblem,
+    ToolsExpression,
+    ToolsAreas,
     HelpAbout,
 };
 
@@ -75,6 +77,11 @@ public:
     [[nodiscard]] QMenu *menu(MenuId id) const { return m_menus.value(id); }
 
 private:
+    // Members, so that lupdate finds their texts in this context.
+    struct Row;
+    [[nodiscard]] static QList<Row> table();
+    [[nodiscard]] static const char *menuTitle(MenuId id);
+
     QHash<ActionId, QAction *> m_actions;
     QHash<MenuId, QMenu *> m_menus;
 };

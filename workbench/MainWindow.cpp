@@ -1,6 +1,8 @@
 #include "workbench/MainWindow.h"
 
 #include "workbench/CheckCommands.h"
+#include "workbench/dialogs/AreaSelectionDialog.h"
+#include "workbench/dialogs/ExpressionDialog.h"
 #include "workbench/FileCommands.h"
 #include "workbench/panels/EntityForm.h"
 #include "workbench/panels/EntityTreePanel.h"
@@ -42,6 +44,8 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_selection(&m_do
     m_actions.place(this);
     m_files = new FileCommands({&m_document, &m_selection, &m_actions, this}, this);
     addPanels();
+    ExpressionDialog::addTo({&m_document, &m_selection, &m_actions, this});
+    AreaSelectionDialog::addTo({&m_document, &m_selection, &m_actions, this});
     addUndo();
     addAbout();
     connect(m_actions[ActionId::FileQuit], &QAction::triggered, this, &QWidget::close);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "documents/sources/SourceOptions.h"
+#include "documents/sources/SourceResult.h"
+
+#include <QStringList>
+
+class Progress;
+class QWidget;
+
+/// What a person is asked and told when a source is opened. \a window is the parent of the dialogs.
+namespace SourceFiles
+{
+/// The ends of the names of text files with delimiters.
+[[nodiscard]] QStringList textSuffixes();
+/// Asks for a file that ends in one of \a suffixes; empty when the person gives up.
+[[nodiscard]] QString choose(QWidget *window, const QString &title, const QStringList &suffixes);
+/// Options that show \a progress and let the person cancel it.
+[[nodiscard]] SourceOptions options(Progress &progress);
+/// Says what is wrong with a source. Without \a errors it was cancelled, which the person knows.
+void report(QWidget *window, const QList<SourceProblem> &errors);
+} // namespace SourceFiles
