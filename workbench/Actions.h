@@ -50,6 +50,8 @@ enum class ActionId {
     ToolsPreviousProblem,
     ToolsExpression,
     ToolsAreas,
+    ToolsNewRun,
+    ToolsOpenRun,
     HelpAbout,
 };
 

@@ -10,6 +10,7 @@
 #include "workbench/panels/ProblemsPanel.h"
 #include "workbench/panels/SourcesPanel.h"
 #include "workbench/panels/VariableTablePanel.h"
+#include "workbench/run/RunCommands.h"
 #include "workbench/SourceCommands.h"
 #include "workbench/Workspace.h"
 
@@ -43,6 +44,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_selection(&m_do
 
     m_actions.place(this);
     m_files = new FileCommands({&m_document, &m_selection, &m_actions, this}, this);
+    m_runs = new RunCommands({&m_document, &m_selection, &m_actions, this}, this);
     addPanels();
     ExpressionDialog::addTo({&m_document, &m_selection, &m_actions, this});
     AreaSelectionDialog::addTo({&m_document, &m_selection, &m_actions, this});
@@ -205,5 +207,13 @@ void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 void MainWindow::dropEvent(QDropEvent *event)
 {
     event->acceptProposedAction();
-    m_files->open(event->mimeData()->urls().constFirst().toLocalFile());
+    open(event->mimeData()->urls().constFirst().toLocalFile());
+}
+
+void MainWindow::open(const QString &path)
+{
+    if (RunCommands::isRunConfiguration(path))
+        m_runs->open(path);
+    else
+        m_files->open(path);
 }

@@ -9,6 +9,7 @@
 
 class FileCommands;
 class Inspector;
+class RunCommands;
 struct Workspace;
 
 /// Makes the parts and wires them together; what they do stands in the parts.
@@ -25,6 +26,9 @@ public:
     [[nodiscard]] Selection *selection() { return &m_selection; }
     [[nodiscard]] Actions *actions() { return &m_actions; }
     [[nodiscard]] FileCommands *files() { return m_files; }
+
+    /// Opens the dictionary or the run configuration at \a path.
+    void open(const QString &path);
 
     /// Puts docks and size as they are before anybody moves them.
     void setPlainLayout();
@@ -50,5 +54,6 @@ private:
     Selection m_selection;
     Actions m_actions;
     FileCommands *m_files;
+    RunCommands *m_runs;
     QByteArray m_plainState;
 };

@@ -1,5 +1,4 @@
 #include "workbench/CommandLine.h"
-#include "workbench/FileCommands.h"
 #include "workbench/MainWindow.h"
 #include "workbench/Theme.h"
 #include "workbench/Translations.h"
@@ -56,7 +55,7 @@ int main(int argc, char *argv[])
         window.resize(line.size);
     window.show();
     if (line.screenshot.isEmpty() && !line.file.isEmpty())
-        window.files()->open(line.file);
+        window.open(line.file);
     if (!line.selection.isEmpty() && !window.selection()->select(line.selection))
         return fail(QApplication::translate("main", "There is no %1 in the dictionary.").arg(line.selection));
     return line.screenshot.isEmpty() ? QApplication::exec() : screenshot(window, line.screenshot);

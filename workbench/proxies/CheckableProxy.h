@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QIdentityProxyModel>
+
+/// Lets a person switch every check box that the source shows in its first column. Some of the layer's models
+/// show and take check states without offering it.
+class CheckableProxy : public QIdentityProxyModel
+{
+    Q_OBJECT
+
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+};

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "workbench/run/RunPage.h"
+
+#include <QModelIndexList>
+
+class CheckableProxy;
+class CheckListModel;
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
+class QSortFilterProxyModel;
+class QTableView;
+class TDcEntity;
+class TDcVariable;
+
+/// Which variables of the entities take part, in one of the three steps that show them. All three show the
+/// same checks.
+class VariablesPage : public RunPage
+{
+    Q_OBJECT
+
+public:
+    enum class Step {
+        Choose, ///< Those without a role in their entity.
+        Split, ///< All of them.
+        Down ///< Those that take part and have no role, sorted.
+    };
+
+    VariablesPage(RunDraft *draft, Step step, QWidget *parent = nullptr);
+
+protected:
+    void initializePage() override;
+    [[nodiscard]] QString problem() const override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void describe();
+    [[nodiscard]] QWidget *makeEntities();
+    [[nodiscard]] QWidget *makeVariables();
+    [[nodiscard]] CheckListModel *makeModel(TDcEntity *entity);
+
+    void showEntity();
+    void setFilter(const QString &text);
+    /// Follows checks that were changed.
+    void followChecks();
+    void showCounts();
+    /// Switches the checks of the selected rows to what the current one has not.
+    void switchSelected();
+    void check(const QModelIndexList &rows, bool checked);
+    [[nodiscard]] QModelIndexList shownRows() const;
+    [[nodiscard]] TDcEntity *current() const;
+
+    const Step m_step;
+    QListWidget *m_entities;
+    QCheckBox *m_all;
+    QLineEdit *m_filter;
+    QTableView *m_view;
+    QLabel *m_count;
+    CheckListModel *m_model = nullptr;
+    CheckableProxy *m_checkable;
+    QSortFilterProxyModel *m_proxy;
+};
