@@ -65,6 +65,10 @@ QList<Actions::Row> Actions::table()
 
         {EditUndo, MenuId::Edit, ToolBarGroup, "48px-Undo", QKeySequence::Undo, TEXT("&Undo"), TEXT("Undo")},
         {EditRedo, MenuId::Edit, ToolBar, "48px-Redo", QKeySequence::Redo, TEXT("&Redo"), TEXT("Redo")},
+        {EditCopy, MenuId::Edit, GroupStart, "48px-Copy", QKeySequence::Copy, TEXT("&Copy"),
+         TEXT("Copy the selected rows, for a spreadsheet or another table")},
+        {EditPaste, MenuId::Edit, MenuOnly, "48px-Paste", QKeySequence::Paste, TEXT("&Paste"),
+         TEXT("Paste rows of a spreadsheet or of another table")},
         {EditFilter, MenuId::Edit, GroupStart, "48px-Filter", "Ctrl+L", TEXT("&Filter Variables"),
          TEXT("Type into the filter of the variable table")},
 

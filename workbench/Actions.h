@@ -17,6 +17,8 @@ enum class ActionId {
     FileQuit,
     EditUndo,
     EditRedo,
+    EditCopy,
+    EditPaste,
     EditFilter,
     EntityAdd,
     EntityDuplicate,

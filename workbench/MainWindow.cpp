@@ -1,6 +1,7 @@
 #include "workbench/MainWindow.h"
 
 #include "workbench/CheckCommands.h"
+#include "workbench/ClipboardCommands.h"
 #include "workbench/dialogs/AreaSelectionDialog.h"
 #include "workbench/dialogs/ExpressionDialog.h"
 #include "workbench/FileCommands.h"
@@ -8,7 +9,9 @@
 #include "workbench/panels/EntityTreePanel.h"
 #include "workbench/panels/Inspector.h"
 #include "workbench/panels/ProblemsPanel.h"
+#include "workbench/panels/RangesPanel.h"
 #include "workbench/panels/SourcesPanel.h"
+#include "workbench/panels/ValueLabelsPanel.h"
 #include "workbench/panels/VariableTablePanel.h"
 #include "workbench/run/RunCommands.h"
 #include "workbench/SourceCommands.h"
@@ -83,6 +86,8 @@ void MainWindow::addPanels()
     QDockWidget *problems = addProblems(workspace, inspectorPanel);
     tabifyDockWidget(sources, problems);
     sources->raise();
+    new ClipboardCommands(workspace, table->view(), inspectorPanel->valueLabels()->view(),
+                          inspectorPanel->ranges()->view(), table);
     resizeDocks({tree, inspector}, {250, 340}, Qt::Horizontal);
     resizeDocks({tree, entity}, {260, 340}, Qt::Vertical);
     resizeDocks({sources}, {210}, Qt::Vertical);

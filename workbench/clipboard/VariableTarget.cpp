@@ -1,0 +1,110 @@
+#include "workbench/clipboard/VariableTarget.h"
+
+#include "model/TDcEntity.h"
+#include "model/TDcVariable.h"
+#include "workbench/operations/ListEdits.h"
+#include "workbench/operations/NewNames.h"
+#include "workbench/operations/VariableEdits.h"
+
+#include <algorithm>
+
+VariableTarget::VariableTarget(TDcEntity *root, TDcEntity *entity, const QList<TDcVariable *> &displayed,
+                               const QList<int> &columns)
+    : m_root(root), m_entity(entity), m_variables(displayed), m_properties(properties(columns)),
+      m_displayedColumns(int(columns.size()))
+{
+    // Those that a filter hides have their names too. The first of a name counts.
+    const QList<TDcVariable *> &all = *entity->getVariables();
+    for (qsizetype i = all.size() - 1; i >= 0; --i)
+        remember(all.at(i)->getName(), all.at(i));
+}
+
+QList<VariableProperty> VariableTarget::properties(const QList<int> &columns)
+{
+    const QList<VariableProperty> &all = VariableProperties::all();
+    QList<VariableProperty> properties;
+    std::transform(columns.cbegin(), columns.cend(), std::back_inserter(properties),
+                   [&all](int column) { return all.at(column); });
+    std::copy_if(all.cbegin(), all.cend(), std::back_inserter(properties),
+                 [&columns](const VariableProperty &property) { return !columns.contains(property.column); });
+    return properties;
+}
+
+void VariableTarget::remember(const QString &name, TDcVariable *variable)
+{
+    if (name.trimmed().isEmpty())
+        return;
+    m_byName.insert(name.trimmed(), variable);
+    m_byFoldedName.insert(name.trimmed().toCaseFolded(), variable);
+}
+
+QList<PasteTarget::Column> VariableTarget::columns() const
+{
+    QList<Column> columns;
+    std::transform(m_properties.cbegin(), m_properties.cend(), std::back_inserter(columns),
+                   [](const VariableProperty &property) {
+                       return Column{property.title(), QString::fromLatin1(property.name)};
+                   });
+    return columns;
+}
+
+QList<int> VariableTarget::keyColumns() const
+{
+    const auto name = std::find_if(m_properties.cbegin(), m_properties.cend(),
+                                   [](const VariableProperty &property) { return property.column == 0; });
+    return {int(name - m_properties.cbegin())};
+}
+
+int VariableTarget::find(const QStringList &keys)
+{
+    const QString name = keys.constFirst().trimmed();
+    TDcVariable *variable = m_byName.value(name, m_byFoldedName.value(name.toCaseFolded()));
+    if (!variable)
+        return -1;
+    if (const qsizetype row = m_variables.indexOf(variable); row >= 0)
+        return int(row);
+    m_variables.append(variable);
+    return rowCount() - 1;
+}
+
+void VariableTarget::add(const QStringList &keys)
+{
+    // The name is stored later, as any other cell is; until then it is in nobody's way.
+    TDcVariable *variable = VariableEdits::add(m_entity, {});
+    m_variables.append(variable);
+    m_added.append(variable);
+    if (!keys.isEmpty())
+        remember(keys.constFirst(), variable);
+}
+
+QString VariableTarget::store(int row, int column, const QString &text)
+{
+    if (!m_writer)
+        m_writer = std::make_unique<VariableWriter>(m_root, m_entity);
+    TDcVariable *variable = m_variables.at(row);
+    const VariableProperty &property = m_properties.at(column);
+    // What was found without regard to case keeps its name.
+    const bool found =
+        property.column == 0 && m_byFoldedName.value(text.trimmed().toCaseFolded()) == variable;
+    if (found && !variable->getName().isEmpty())
+        return {};
+    return m_writer->writeText(variable, property, text);
+}
+
+void VariableTarget::discard(int row)
+{
+    TDcVariable *variable = std::exchange(m_variables[row], nullptr);
+    m_added.removeOne(variable);
+    m_writer.reset();
+    ListEdits::remove(*m_entity->getVariables(), {variable});
+}
+
+void VariableTarget::finish()
+{
+    m_writer.reset();
+    for (TDcVariable *variable : std::as_const(m_added)) {
+        if (variable->getName().isEmpty())
+            variable->setName(NewNames::variable(
+                m_root, m_entity, QCoreApplication::translate("VariableTablePanel", "VARIABLE")));
+    }
+}
