@@ -36,7 +36,8 @@ int main(int argc, char *argv[])
     QApplication::setOrganizationName(u"Quillon"_s);
     QApplication::setApplicationName(u"quillon-workbench"_s);
     QApplication::setApplicationVersion(QString::fromLatin1(QUILLON_VERSION));
-    QApplication::setWindowIcon(QIcon(u":/icons/res/icons/48px-Dict-Database.png"_s));
+    QApplication::setDesktopFileName(u"quillon-workbench"_s);
+    QApplication::setWindowIcon(QIcon(u":/icons/res/icons/quillon-workbench.png"_s));
 
     const CommandLine line = CommandLine::parse(QApplication::arguments());
     if (!line.error.isEmpty())
