@@ -32,16 +32,20 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     const QCommandLineOption open(u"open"_s, tr("Open the dictionary <file>."), u"file"_s);
     const QCommandLineOption select(u"select"_s, tr("Select an entity, or one of its variables."),
                                     u"ENTITY/VARIABLE"_s);
+    const QCommandLineOption tour(
+        u"tour"_s, tr("Go through what the workbench can do, leave pictures in <folder> and quit."),
+        u"folder"_s);
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("An editor for data dictionaries."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({screenshot, size, theme, language, open, select});
+    parser.addOptions({screenshot, tour, size, theme, language, open, select});
     parser.addPositionalArgument(u"file"_s, tr("The dictionary to open."), u"[file]"_s);
     parser.process(arguments);
 
     const QStringList files = parser.values(open) + parser.positionalArguments();
     CommandLine line{.screenshot = parser.value(screenshot),
+                     .tour = parser.value(tour),
                      .size = toSize(parser.value(size)),
                      .theme = parser.value(theme),
                      .language = parser.value(language),
@@ -50,6 +54,8 @@ CommandLine CommandLine::parse(const QStringList &arguments)
                      .error = {}};
     if (files.size() > 1)
         line.error = tr("One dictionary at a time, please.");
+    else if (!line.tour.isEmpty() && line.file.isEmpty())
+        line.error = tr("The tour needs a dictionary to go through.");
     else if (parser.isSet(size) && line.size.isEmpty())
         line.error = tr("The size is written as in 1280x800.");
     else if (!QStringList{u"light"_s, u"dark"_s, u"system"_s}.contains(line.theme))

@@ -7,11 +7,15 @@
 /// What the person asked for when starting the program.
 struct CommandLine {
     QString screenshot; ///< Draw the window into this file and quit; empty for normal use.
+    QString tour; ///< Go through what there is, draw it into this folder and quit; empty for normal use.
     QSize size; ///< Of the window; empty for the size it had last.
     QString theme; ///< As Theme::apply() takes it.
     QString language; ///< A language code; empty for the system's.
     QString file; ///< To open; empty for a new dictionary.
     QString selection; ///< As Selection::select() takes it; may be empty.
+
+    /// Whether the program only draws pictures: it asks nobody anything and leaves no traces.
+    [[nodiscard]] bool isForPictures() const { return !screenshot.isEmpty() || !tour.isEmpty(); }
 
     QString error; ///< What is wrong with the arguments; empty when nothing is.
 

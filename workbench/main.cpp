@@ -1,10 +1,12 @@
 #include "workbench/CommandLine.h"
 #include "workbench/MainWindow.h"
 #include "workbench/Theme.h"
+#include "workbench/Tour.h"
 #include "workbench/Translations.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QLoggingCategory>
 #include <QPixmap>
 
 #include <cstdio>
@@ -20,13 +22,33 @@ int fail(const QString &message)
 }
 
 /// Draws \a window as it is shown once all layouts have settled.
-int screenshot(MainWindow &window, const QString &path)
+int screenshot(MainWindow &window, const CommandLine &line)
 {
+    if (!line.file.isEmpty() && !window.document()->open(line.file))
+        return fail(line.file + u": "_s + window.document()->errorText());
+    if (!line.selection.isEmpty() && !window.selection()->select(line.selection))
+        return fail(QApplication::translate("main", "There is no %1 in the dictionary.").arg(line.selection));
     QApplication::processEvents();
     QApplication::processEvents();
-    if (!window.grab().save(path))
-        return fail(QApplication::translate("main", "The picture cannot be written to %1.").arg(path));
+    if (!window.grab().save(line.screenshot))
+        return fail(
+            QApplication::translate("main", "The picture cannot be written to %1.").arg(line.screenshot));
     return 0;
+}
+
+int tour(MainWindow &window, const CommandLine &line)
+{
+    Tour tour(&window, line.tour);
+    return tour.go(line.file) ? 0 : fail(tour.errorText());
+}
+
+int work(MainWindow &window, const CommandLine &line)
+{
+    if (!line.file.isEmpty())
+        window.open(line.file);
+    if (!line.selection.isEmpty() && !window.selection()->select(line.selection))
+        return fail(QApplication::translate("main", "There is no %1 in the dictionary.").arg(line.selection));
+    return QApplication::exec();
 }
 } // namespace
 
@@ -36,8 +58,10 @@ int main(int argc, char *argv[])
     QApplication::setOrganizationName(u"Quillon"_s);
     QApplication::setApplicationName(u"quillon-workbench"_s);
     QApplication::setApplicationVersion(QString::fromLatin1(QUILLON_VERSION));
+    // The layer tells its developers what it does; people who edit a dictionary need not read that.
+    QLoggingCategory::setFilterRules(u"default.debug=false"_s);
     QApplication::setDesktopFileName(u"quillon-workbench"_s);
-    QApplication::setWindowIcon(QIcon(u":/icons/res/icons/quillon-workbench.png"_s));
+    QApplication::setWindowIcon(QIcon(u":/icons/quillon-workbench.png"_s));
 
     const CommandLine line = CommandLine::parse(QApplication::arguments());
     if (!line.error.isEmpty())
@@ -46,18 +70,12 @@ int main(int argc, char *argv[])
     Translations::install(line.language);
 
     MainWindow window;
-    if (!line.screenshot.isEmpty()) {
-        // A picture shows the layout that everybody starts with, and asks nobody anything.
-        window.setPlainLayout();
-        if (!line.file.isEmpty() && !window.document()->open(line.file))
-            return fail(line.file + u": "_s + window.document()->errorText());
-    }
+    if (line.isForPictures())
+        window.setPlainLayout(); // A picture shows the layout that everybody starts with.
     if (!line.size.isEmpty())
         window.resize(line.size);
     window.show();
-    if (line.screenshot.isEmpty() && !line.file.isEmpty())
-        window.open(line.file);
-    if (!line.selection.isEmpty() && !window.selection()->select(line.selection))
-        return fail(QApplication::translate("main", "There is no %1 in the dictionary.").arg(line.selection));
-    return line.screenshot.isEmpty() ? QApplication::exec() : screenshot(window, line.screenshot);
+    if (!line.tour.isEmpty())
+        return tour(window, line);
+    return line.screenshot.isEmpty() ? work(window, line) : screenshot(window, line);
 }

@@ -3,6 +3,7 @@
 #include "tests/workbench/Bench.h"
 #include "workbench/panels/VariableTablePanel.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTableView>
@@ -121,6 +122,8 @@ void TestVariableTablePanel::importsFieldsInOneStep()
     QCOMPARE(m_bench->document.undoStack()->count(), 1);
     QCOMPARE(m_bench->undoText(), u"import of 3 fields"_s);
     QCOMPARE(m_bench->selection.variable()->getName(), u"EYES"_s);
+    QCOMPARE(m_panel->findChild<QLabel *>()->text(), u"Variables: 6"_s);
+    QCOMPARE(m_panel->view()->currentIndex().row(), 5);
     m_bench->document.undoStack()->undo();
     QCOMPARE(shown().size(), 3);
     m_bench->document.undoStack()->redo();

@@ -60,6 +60,8 @@ VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *pare
         m_view->viewport()->update();
         updateActions();
     });
+    // The proxy's, not the model's: the view has the new rows by then.
+    connect(m_proxy, &QAbstractItemModel::modelReset, this, &VariableTablePanel::takeImport);
     connectActions();
     showEntity(workspace.selection->entity());
     showSelection();
@@ -113,18 +115,20 @@ void VariableTablePanel::connectModel()
         const QScopedValueRollback committing(m_committing, true);
         m_workspace.document->commit({}, m_workspace.selection->entity());
     });
-    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
-        const int fields = std::exchange(m_imported, 0);
-        if (fields == 0)
-            return;
-        TDcEntity *entity = m_workspace.selection->entity();
-        m_workspace.document->commit(
-            fields == 1 ? tr("import of a field") : tr("import of %L1 fields").arg(fields), entity);
-        TDcVariable *last = entity->getVariables()->isEmpty() ? nullptr : entity->getVariables()->last();
-        m_workspace.selection->select(entity, last);
-        showSelection();
-        updateCount();
-    });
+}
+
+void VariableTablePanel::takeImport()
+{
+    const int fields = std::exchange(m_imported, 0);
+    if (fields == 0)
+        return;
+    TDcEntity *entity = m_workspace.selection->entity();
+    m_workspace.document->commit(
+        fields == 1 ? tr("import of a field") : tr("import of %L1 fields").arg(fields), entity);
+    TDcVariable *last = entity->getVariables()->isEmpty() ? nullptr : entity->getVariables()->last();
+    m_workspace.selection->select(entity, last);
+    showSelection();
+    updateCount();
 }
 
 QModelIndex VariableTablePanel::indexOf(const TDcVariable *variable, int column) const

@@ -33,6 +33,7 @@ public:
 private:
     void connectActions();
     void connectModel();
+    void takeImport();
     void arrangeColumns();
     void showEntity(TDcEntity *entity);
     void showSelection();

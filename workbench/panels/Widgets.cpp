@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyledItemDelegate>
@@ -14,11 +15,36 @@
 
 namespace
 {
-/// Gives the rows of a tree the height that rows of tables have.
-class RoomyRows : public QStyledItemDelegate
+/// Draws the icons of selected rows in the colour of their text. In their own colours some of them would
+/// vanish in the highlight.
+class LegibleIcons : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!option->state.testFlag(QStyle::State_Selected) || option->icon.isNull())
+            return;
+        const qreal ratio = option->widget ? option->widget->devicePixelRatioF() : 1.0;
+        QPixmap pixmap = option->icon.pixmap(option->decorationSize, ratio);
+        QPainter painter(&pixmap);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(pixmap.rect(), option->palette.color(QPalette::HighlightedText));
+        painter.end();
+        QIcon icon(pixmap);
+        icon.addPixmap(pixmap, QIcon::Selected); // Or the style would tint it once more.
+        option->icon = icon;
+    }
+};
+
+/// Gives the rows of a tree the height that rows of tables have.
+class RoomyRows : public LegibleIcons
+{
+public:
+    using LegibleIcons::LegibleIcons;
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
@@ -62,6 +88,7 @@ QWidget *Widgets::scrolled(QWidget *form, QWidget *parent)
 void Widgets::setUpTable(QTableView *table, const QString &name)
 {
     table->setAccessibleName(name);
+    table->setItemDelegate(new LegibleIcons(table));
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed

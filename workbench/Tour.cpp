@@ -1,0 +1,289 @@
+#include "workbench/Tour.h"
+
+#include "model/TDcEntity.h"
+#include "model/TDcVariable.h"
+#include "workbench/MainWindow.h"
+#include "workbench/operations/NewNames.h"
+#include "workbench/panels/EntityTreePanel.h"
+#include "workbench/panels/RangesPanel.h"
+#include "workbench/panels/SourcesPanel.h"
+#include "workbench/panels/SourceTab.h"
+#include "workbench/panels/ValueLabelsPanel.h"
+#include "workbench/panels/VariableTablePanel.h"
+#include "workbench/SourceCommands.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTableView>
+#include <QTextStream>
+#include <QTimer>
+#include <QTreeView>
+#include <QWizard>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+/// The entity below \a entity, or itself, that has the most variables.
+TDcEntity *richest(TDcEntity *entity)
+{
+    TDcEntity *best = entity;
+    for (TDcEntity *child : std::as_const(*entity->getChildren())) {
+        TDcEntity *candidate = richest(child);
+        if (candidate->getVariables()->size() > best->getVariables()->size())
+            best = candidate;
+    }
+    return best;
+}
+
+void settle()
+{
+    // Layouts ask for others, which ask for a third round.
+    for (int round = 0; round < 3; ++round)
+        QApplication::processEvents();
+}
+
+/// Writes \a text into the last row of \a view, as its editor would.
+bool writeLast(QAbstractItemView *view, int column, const QString &text)
+{
+    QAbstractItemModel *model = view->model();
+    return model->setData(model->index(model->rowCount() - 1, column), text, Qt::EditRole);
+}
+} // namespace
+
+Tour::Tour(MainWindow *window, QString folder) : m_window(window), m_folder(std::move(folder)) { }
+
+QList<Tour::Stop> Tour::stops()
+{
+#define TEXT(text) QT_TRANSLATE_NOOP("Tour", text)
+    return {
+        {"open", TEXT("A dictionary is open."), [this] { return open(); }},
+        {"rename", TEXT("An entity is renamed."), [this] { return renameEntity(); }},
+        {"find", TEXT("A variable is found by typing a part of its label."), [this] { return find(); }},
+        {"edit", TEXT("Its label is edited in place."), [this] { return edit(); }},
+        {"values", TEXT("It gets a value label and a range."), [this] { return giveValues(); }},
+        {"source", TEXT("A data file lists its fields."), [this] { return openDataFile(); }},
+        {"import", TEXT("The fields become variables; clashes are resolved."),
+         [this] { return importFields(); }},
+        {"undo", TEXT("Every step can be undone and redone."), [this] { return showUndo(); }},
+        {"save", TEXT("The dictionary is saved."), [this] { return save(); }},
+    };
+#undef TEXT
+}
+
+bool Tour::go(const QString &path)
+{
+    const QFileInfo original(path);
+    if (!QDir().mkpath(m_folder)) {
+        m_error = tr("The folder %1 cannot be made.").arg(m_folder);
+        return false;
+    }
+    m_copy = QDir(m_folder).filePath(original.fileName());
+    QFile::remove(m_copy);
+    if (!QFile::copy(path, m_copy)) {
+        m_error = tr("%1 cannot be copied to %2.").arg(path, m_folder);
+        return false;
+    }
+    QFile::setPermissions(m_copy, QFile::permissions(m_copy) | QFile::WriteOwner);
+    const QStringList dataFiles = original.dir().entryList({u"*.sav"_s}, QDir::Files, QDir::Name);
+    m_dataFile = dataFiles.isEmpty() ? QString() : original.dir().filePath(dataFiles.first());
+
+    QTextStream out(stdout);
+    const QList<Stop> all = stops();
+    for (const Stop &stop : all) {
+        m_name = QLatin1StringView(stop.name);
+        out << tr(stop.caption) << Qt::endl;
+        if (!stop.visit()) {
+            if (m_error.isEmpty())
+                m_error = tr("The tour ended early, at “%1”.").arg(m_name);
+            return false;
+        }
+    }
+    out << tr("%n picture(s) in %1", nullptr, m_pictures).arg(QDir::toNativeSeparators(m_folder)) << Qt::endl;
+    return true;
+}
+
+bool Tour::picture(QWidget *widget)
+{
+    settle();
+    ++m_pictures;
+    const QString name = u"%1-%2.png"_s.arg(m_pictures, 2, 10, QLatin1Char('0')).arg(m_name);
+    if (widget->grab().save(QDir(m_folder).filePath(name)))
+        return true;
+    m_error = tr("The picture cannot be written to %1.").arg(QDir(m_folder).filePath(name));
+    return false;
+}
+
+bool Tour::trigger(ActionId id)
+{
+    QAction *action = (*m_window->actions())[id];
+    action->trigger();
+    settle();
+    return action->isEnabled() || !action->isCheckable();
+}
+
+bool Tour::answer(const QString &button, const std::function<void()> &change)
+{
+    bool done = true;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, m_window, [this, &button, &done] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        done = done && picture(box);
+        const QList<QAbstractButton *> buttons = box->buttons();
+        const auto found =
+            std::find_if(buttons.cbegin(), buttons.cend(), [&button](const QAbstractButton *other) {
+                return other->text().remove(u'&') == button;
+            });
+        if (found == buttons.cend())
+            box->reject();
+        else
+            (*found)->click();
+    });
+    look.start(0);
+    change();
+    return done;
+}
+
+bool Tour::open()
+{
+    if (!m_window->document()->open(m_copy)) {
+        m_error = m_window->document()->errorText();
+        return false;
+    }
+    m_window->selection()->setEntity(richest(m_window->document()->root()));
+    return picture(m_window);
+}
+
+bool Tour::renameEntity()
+{
+    auto *tree = m_window->findChild<EntityTreePanel *>()->findChild<QTreeView *>();
+    const QModelIndex index = tree->currentIndex();
+    const QString name = NewNames::entity(m_window->document()->root(), index.data().toString() + u'S');
+    tree->edit(index);
+    const bool drawn = picture(m_window);
+    m_window->setFocus(); // Which closes the editor.
+    return drawn && tree->model()->setData(index, name, Qt::EditRole);
+}
+
+bool Tour::find()
+{
+    const QList<TDcVariable *> &variables = *m_window->selection()->entity()->getVariables();
+    if (variables.isEmpty())
+        return picture(m_window);
+    const TDcVariable *wanted = variables.at(variables.size() / 2);
+    const QString text = wanted->getLabel().isEmpty() ? wanted->getName() : wanted->getLabel();
+    auto *table = m_window->findChild<VariableTablePanel *>();
+    table->filterField()->setText(text.section(u' ', 0, 0).left(6).toLower());
+    return picture(m_window) && table->view()->model()->rowCount() > 0;
+}
+
+bool Tour::edit()
+{
+    auto *table = m_window->findChild<VariableTablePanel *>();
+    const QModelIndex label = table->view()->currentIndex().siblingAtColumn(2);
+    if (!label.isValid())
+        return picture(m_window);
+    const QString text = label.data().toString();
+    table->view()->setCurrentIndex(label);
+    table->view()->edit(label);
+    const bool drawn = picture(m_window);
+    m_window->setFocus();
+    return drawn && table->view()->model()->setData(label, text + u'.', Qt::EditRole);
+}
+
+bool Tour::giveValues()
+{
+    if (!m_window->selection()->variable())
+        return picture(m_window);
+    trigger(ActionId::LabelAdd);
+    m_window->setFocus();
+    QTableView *labels = m_window->findChild<ValueLabelsPanel *>()->view();
+    if (!writeLast(labels, 0, u"97"_s) || !writeLast(labels, 1, tr("Not known")))
+        return false;
+    trigger(ActionId::RangeAdd);
+    m_window->setFocus();
+    QTableView *ranges = m_window->findChild<RangesPanel *>()->view();
+    if (!writeLast(ranges, 0, u"96"_s) || !writeLast(ranges, 1, u"97"_s))
+        return false;
+    return picture(m_window);
+}
+
+bool Tour::openDataFile()
+{
+    m_window->findChild<VariableTablePanel *>()->filterField()->clear();
+    if (!m_dataFile.isEmpty() && !m_window->findChild<SourceCommands *>()->openDataset(m_dataFile))
+        return false;
+    return picture(m_window);
+}
+
+bool Tour::importFields()
+{
+    QTableView *fields = m_window->findChild<SourcesPanel *>()->dataset()->view();
+    fields->selectAll();
+    if (!fields->selectionModel()->hasSelection())
+        return picture(m_window);
+    const auto count = [this] { return m_window->selection()->entity()->getVariables()->size(); };
+    const qsizetype before = count();
+    trigger(ActionId::SourceAppend);
+    if (!picture(m_window))
+        return false;
+    // A field once more is asked about.
+    fields->selectRow(fields->model()->rowCount() - 1);
+    const QString rename = QCoreApplication::translate("VariableDiccionaryModel", "Rename");
+    return answer(rename, [this] { trigger(ActionId::SourceAppend); })
+        && count() == before + fields->model()->rowCount() + 1;
+}
+
+bool Tour::showUndo()
+{
+    QMenu *menu = m_window->actions()->menu(MenuId::Edit);
+    menu->ensurePolished();
+    menu->resize(menu->sizeHint());
+    if (!picture(menu))
+        return false;
+    const int steps = m_window->document()->undoStack()->index();
+    for (int step = 0; step < steps; ++step)
+        trigger(ActionId::EditUndo);
+    const bool undone = !m_window->document()->isModified();
+    for (int step = 0; step < steps; ++step)
+        trigger(ActionId::EditRedo);
+    return undone && m_window->document()->isModified();
+}
+
+bool Tour::dialog(ActionId action, const QString &name)
+{
+    trigger(action);
+    auto *dialog = m_window->findChild<QDialog *>(name);
+    if (!dialog)
+        return false;
+    bool drawn = picture(dialog);
+    if (auto *wizard = qobject_cast<QWizard *>(dialog)) {
+        while (drawn && wizard->nextId() >= 0) {
+            const int page = wizard->currentId();
+            wizard->next();
+            if (wizard->currentId() == page)
+                break; // It wants something first.
+            drawn = picture(wizard);
+        }
+    }
+    dialog->reject();
+    settle();
+    return drawn;
+}
+
+bool Tour::save()
+{
+    return trigger(ActionId::FileSave) && !m_window->document()->isModified() && picture(m_window);
+}
