@@ -1,6 +1,7 @@
 #include "workbench/ClipboardCommands.h"
 
 #include "workbench/Actions.h"
+#include "workbench/Progress.h"
 
 #include <QAbstractSpinBox>
 #include <QAction>
@@ -10,7 +11,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QProgressDialog>
 #include <QTableView>
 #include <QTextEdit>
 
@@ -89,15 +89,12 @@ void ClipboardCommands::paste()
 
 void ClipboardCommands::pasteInto(ClipboardTable &table, const QString &text)
 {
-    QProgressDialog dialog(tr("Pasting…"), tr("Cancel"), 0, 1, m_workspace.window);
-    dialog.setWindowModality(Qt::ApplicationModal);
-    dialog.setMinimumDuration(700);
-    const Paste paste = table.paste(text, [&dialog](int done, int all) {
-        dialog.setMaximum(all);
-        dialog.setValue(done);
-        return !dialog.wasCanceled();
-    });
-    dialog.reset();
+    Paste paste;
+    {
+        Progress progress(tr("Pasting…"), m_workspace.window);
+        paste =
+            table.paste(text, [&progress](int done, int all) { return progress.show(double(done) / all); });
+    }
     report(paste);
 }
 

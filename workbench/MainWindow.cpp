@@ -7,6 +7,7 @@
 #include "workbench/FileCommands.h"
 #include "workbench/panels/EntityForm.h"
 #include "workbench/panels/EntityTreePanel.h"
+#include "workbench/panels/FindPanel.h"
 #include "workbench/panels/Inspector.h"
 #include "workbench/panels/ProblemsPanel.h"
 #include "workbench/panels/RangesPanel.h"
@@ -85,6 +86,7 @@ void MainWindow::addPanels()
     QDockWidget *sources = addDock(tr("Sources"), u"sources"_s, sourcesPanel, Qt::BottomDockWidgetArea);
     QDockWidget *problems = addProblems(workspace, inspectorPanel);
     tabifyDockWidget(sources, problems);
+    tabifyDockWidget(problems, addFind(workspace, inspectorPanel));
     sources->raise();
     new ClipboardCommands(workspace, table->view(), inspectorPanel->valueLabels()->view(),
                           inspectorPanel->ranges()->view(), table);
@@ -107,6 +109,19 @@ QDockWidget *MainWindow::addProblems(const Workspace &workspace, Inspector *insp
         dock->show();
         dock->raise();
         panel->view()->setFocus();
+    });
+    return dock;
+}
+
+QDockWidget *MainWindow::addFind(const Workspace &workspace, Inspector *inspector)
+{
+    auto *panel = new FindPanel(workspace, this);
+    QDockWidget *dock = addDock(tr("Find"), u"find"_s, panel, Qt::BottomDockWidgetArea);
+    connect(panel, &FindPanel::itemChosen, inspector, &Inspector::showItem);
+    connect(m_actions[ActionId::EditFind], &QAction::triggered, dock, [dock, panel] {
+        dock->show();
+        dock->raise();
+        panel->start();
     });
     return dock;
 }

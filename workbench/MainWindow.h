@@ -40,6 +40,7 @@ protected:
 
 private:
     void addPanels();
+    QDockWidget *addFind(const Workspace &workspace, Inspector *inspector);
     QDockWidget *addDock(const QString &title, const QString &objectName, QWidget *panel,
                          Qt::DockWidgetArea area);
     QDockWidget *addProblems(const Workspace &workspace, Inspector *inspector);
