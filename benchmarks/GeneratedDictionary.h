@@ -18,8 +18,8 @@ using namespace Qt::Literals::StringLiterals;
 inline constexpr int variablesPerEntity = 100;
 inline constexpr int childrenPerEntity = 10;
 
-/// A variable with metadata, two ranges and four value labels; about 500 bytes of JSON.
-inline std::unique_ptr<TDcVariable> makeVariable(int number)
+/// A variable with metadata, two ranges and \a labels value labels; with four about 500 bytes of JSON.
+inline std::unique_ptr<TDcVariable> makeVariable(int number, int labels = 4)
 {
     static const QString types[] = {u"integer"_s, u"real"_s, u"string"_s, u"integer"_s};
     const QString digits = QString::number(number);
@@ -46,7 +46,7 @@ inline std::unique_ptr<TDcVariable> makeVariable(int number)
         metadata->addItemRange(range.release());
     }
     variable->setMetadataVariables(metadata.release());
-    for (int i = 1; i <= 4; ++i) {
+    for (int i = 1; i <= labels; ++i) {
         auto element = std::make_unique<ValueLabelElement>();
         element->setValue(QString::number(i));
         element->setLabel(u"Answer "_s + QString::number(i));
@@ -82,12 +82,12 @@ inline QList<TDcEntity *> addEntities(TDcEntity &root, int count)
 }
 
 /// A dictionary with \a variables variables, perEntity of them in each entity but the last.
-inline std::unique_ptr<TDcEntity> make(int variables, int perEntity = variablesPerEntity)
+inline std::unique_ptr<TDcEntity> make(int variables, int perEntity = variablesPerEntity, int labels = 4)
 {
     auto root = makeEntity(0);
     const QList<TDcEntity *> entities = addEntities(*root, std::max(0, (variables - 1) / perEntity));
     for (int i = 0; i < variables; ++i)
-        entities.at(i / perEntity)->addVariables(makeVariable(i).release());
+        entities.at(i / perEntity)->addVariables(makeVariable(i, labels).release());
     return root;
 }
 } // namespace GeneratedDictionary

@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <ctime>
 #include <functional>
 #include <type_traits>
@@ -17,6 +18,16 @@ inline double threadSeconds()
     return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
 }
 
+/// Lets the allocator put in order what has been freed before, which would otherwise be paid by the next work
+/// that is measured.
+inline void settleMemory()
+{
+    constexpr std::size_t large = 64 * 1024; // More than is kept apart for quick reuse, less than is mapped.
+    void *memory = std::malloc(large);
+    benchmark::DoNotOptimize(memory);
+    std::free(memory);
+}
+
 /// What some work made, and the CPU time it took.
 template <typename Result>
 struct Timed {
@@ -27,6 +38,7 @@ struct Timed {
 template <typename Work>
 auto timed(Work &&work) -> Timed<std::invoke_result_t<Work>>
 {
+    settleMemory();
     const double start = threadSeconds();
     auto result = std::invoke(work);
     const double end = threadSeconds();

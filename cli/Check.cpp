@@ -2,6 +2,7 @@
 
 #include "cli/DocumentReader.h"
 #include "cli/Output.h"
+#include "cli/Progress.h"
 #include "cli/Text.h"
 #include "documents/checks/DictionaryCheck.h"
 #include "documents/DictionaryFile.h"
@@ -84,7 +85,11 @@ void addCheck(CLI::App &app, Output &output, int &status)
 bool check(const QString &path, CheckForm form, Output &output)
 {
     const std::unique_ptr<DictionaryFile> file = openDictionary(path);
-    const QList<Finding> findings = DictionaryCheck::check(file->root());
+    QList<Finding> findings;
+    {
+        const Progress progress(u"Checking "_s + path);
+        findings = DictionaryCheck::check(file->root());
+    }
     if (form == CheckForm::Json)
         printJson(path, findings, output);
     else

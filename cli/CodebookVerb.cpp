@@ -3,6 +3,7 @@
 #include "cli/DocumentReader.h"
 #include "cli/Failure.h"
 #include "cli/Output.h"
+#include "cli/Progress.h"
 #include "cli/Target.h"
 #include "cli/Text.h"
 #include "documents/codebook/Codebook.h"
@@ -67,8 +68,10 @@ void codebook(const QString &in, const QString &out, Overwrite overwrite, Output
         throw Failure(u"%1: a codebook ends in .html or .pdf"_s.arg(out));
     checkTarget(in, out, overwrite);
     const std::unique_ptr<DictionaryFile> file = openDictionary(in);
-    const QByteArray bytes = suffix == "pdf"_L1 ? pdf(file->root()) : Codebook::html(file->root());
-    save(out, bytes);
+    {
+        const Progress progress(u"Writing "_s + out);
+        save(out, suffix == "pdf"_L1 ? pdf(file->root()) : Codebook::html(file->root()));
+    }
     output.line(Text::printable(u"%1: written"_s.arg(out)));
 }
 } // namespace Cli

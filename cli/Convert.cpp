@@ -2,6 +2,7 @@
 
 #include "cli/Failure.h"
 #include "cli/Output.h"
+#include "cli/Progress.h"
 #include "cli/RoundTrip.h"
 #include "cli/Target.h"
 #include "cli/Text.h"
@@ -11,6 +12,17 @@
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+Cli::RoundTrip readAndWrite(const QString &in, const QString &out)
+{
+    const Cli::Progress progress(u"Converting "_s + in);
+    const Cli::DictionaryDocument document = Cli::readDocument(in);
+    Cli::checkTarget(in, out);
+    return Cli::roundTrip(document);
+}
+} // namespace
 
 namespace Cli
 {
@@ -40,18 +52,17 @@ void addConvert(CLI::App &app, Output &output, int &status)
 
 bool convert(const QString &in, const QString &out, bool lossy, Output &output)
 {
-    const DictionaryDocument document = readDocument(in);
-    checkTarget(in, out);
-    const auto [written, losses] = roundTrip(document);
-    for (const Difference &loss : losses)
+    const RoundTrip trip = readAndWrite(in, out);
+    for (const QString &line : trip.unkept)
+        output.line(Text::printable(line));
+    for (const Difference &loss : trip.losses)
         output.line(Text::printable(loss.toString()));
 
-    const bool write = losses.isEmpty() || lossy;
+    const bool write = trip.lost() == 0 || lossy;
     if (write)
-        save(out, written);
-    const QString lost = losses.isEmpty()
-        ? u"nothing lost"_s
-        : Text::counted(losses.size(), u"value"_s, u"values"_s) + u" lost"_s;
+        save(out, trip.written);
+    const QString lost = trip.lost() == 0 ? u"nothing lost"_s
+                                          : Text::counted(trip.lost(), u"value"_s, u"values"_s) + u" lost"_s;
     output.line(
         Text::printable(write ? u"%1: written, %2"_s.arg(out, lost)
                               : u"%1: not written, %2 (--lossy writes it all the same)"_s.arg(out, lost)));

@@ -2,7 +2,9 @@
 
 #include "cli/DocumentReader.h"
 #include "cli/Failure.h"
+#include "cli/OtherKeys.h"
 #include "cli/Output.h"
+#include "cli/Progress.h"
 #include "cli/Text.h"
 #include "cli/TextConverter.h"
 #include "documents/DictionaryDifference.h"
@@ -53,8 +55,33 @@ QLatin1StringView keyword(DictionaryChange::What what)
     return "valueLabel"_L1;
 }
 
-QByteArray asJson(const QString &before, const QString &after, const QList<DictionaryChange> &changes)
+struct Comparison {
+    DictionaryDifference difference;
+    QList<Cli::Difference> others;
+
+    [[nodiscard]] bool isEmpty() const { return difference.isEmpty() && others.isEmpty(); }
+};
+
+Comparison compare(const QString &before, const QString &after)
 {
+    const std::unique_ptr<DictionaryFile> left = Cli::openDictionary(before);
+    const std::unique_ptr<DictionaryFile> right = Cli::openDictionary(after);
+    const Cli::Progress progress(u"Comparing "_s + before + u" and "_s + after);
+    const auto difference = DictionaryDifference::between(*left->root(), *right->root());
+    // With that applied, only what the objects do not know can differ.
+    if (!difference.apply(*left->root()))
+        throw Cli::Failure(u"%1 and %2 cannot be compared"_s.arg(before, after));
+    return {difference, Cli::otherDifferences(left->content(), right->content())};
+}
+
+QString textOf(const Cli::Difference &other)
+{
+    return u"Other key "_s + other.toString();
+}
+
+QByteArray asJson(const QString &before, const QString &after, const Comparison &comparison)
+{
+    const QList<DictionaryChange> changes = comparison.difference.changes();
     QJsonArray list;
     for (const DictionaryChange &change : changes) {
         list.append(QJsonObject{{"after"_L1, QJsonValue::fromVariant(change.after)},
@@ -65,7 +92,17 @@ QByteArray asJson(const QString &before, const QString &after, const QList<Dicti
                                 {"text"_L1, change.text()},
                                 {"what"_L1, keyword(change.what)}});
     }
-    const QJsonObject content{{"after"_L1, after}, {"before"_L1, before}, {"changes"_L1, list}};
+    QJsonArray others;
+    for (const Cli::Difference &other : comparison.others) {
+        QJsonObject object{{"key"_L1, other.key}, {"path"_L1, other.place}, {"text"_L1, textOf(other)}};
+        if (!other.before.isUndefined())
+            object.insert("before"_L1, other.before);
+        if (!other.after.isUndefined())
+            object.insert("after"_L1, other.after);
+        others.append(object);
+    }
+    const QJsonObject content{
+        {"after"_L1, after}, {"before"_L1, before}, {"changes"_L1, list}, {"otherKeys"_L1, others}};
     return Cli::Text::printableJson(QJsonDocument(content).toJson());
 }
 } // namespace
@@ -93,7 +130,7 @@ void addDiff(CLI::App &app, Output &output, int &status)
                  "  quillon diff old.mvdb new.mvdb --json | jq '.changes[].text'\n"
                  "  git config diff.quillon.textconv 'quillon diff --textconv'\n"
                  "Ends with status 0 if the dictionaries are equal and with 1 if they are not. The order of\n"
-                 "keys, the layout of the file and keys that are not known do not count.");
+                 "keys and the layout of the file do not count; keys that are not known do.");
     verb->callback([options, &output, &status] {
         const auto text = [](const std::string &value) { return QString::fromStdString(value); };
         if (!options->convert.empty()) {
@@ -110,15 +147,17 @@ void addDiff(CLI::App &app, Output &output, int &status)
 
 bool diff(const QString &before, const QString &after, DiffForm form, Output &output)
 {
-    const std::unique_ptr<DictionaryFile> left = openDictionary(before);
-    const std::unique_ptr<DictionaryFile> right = openDictionary(after);
-    const auto difference = DictionaryDifference::between(*left->root(), *right->root());
+    const Comparison comparison = compare(before, after);
     if (form == DiffForm::Json) {
-        output.raw(asJson(before, after, difference.changes()));
-        return difference.isEmpty();
+        output.raw(asJson(before, after, comparison));
+        return comparison.isEmpty();
     }
-    for (const QString &line : difference.text())
-        output.line(Text::printable(line));
-    return difference.isEmpty();
+    if (!comparison.difference.isEmpty() || comparison.isEmpty()) {
+        for (const QString &line : comparison.difference.text())
+            output.line(Text::printable(line));
+    }
+    for (const Difference &other : comparison.others)
+        output.line(Text::printable(textOf(other)));
+    return comparison.isEmpty();
 }
 } // namespace Cli

@@ -2,6 +2,7 @@
 
 #include "business/ProcessDictionaryBusiness.h"
 #include "cli/Failure.h"
+#include "cli/Progress.h"
 #include "documents/DictionaryFile.h"
 #include "model/TDcEntity.h"
 
@@ -69,15 +70,6 @@ QJsonDocument parse(const QString &path, const QByteArray &text)
     return document;
 }
 
-/// Keys that nothing but an entity has, or a name above further entities.
-bool isEntity(const QJsonObject &object)
-{
-    constexpr QLatin1StringView marks[] = {"selectable"_L1, "variables"_L1, "virtual"_L1};
-    return std::any_of(std::begin(marks), std::end(marks),
-                       [&object](auto key) { return object.contains(key); })
-        || (object.contains("name"_L1) && (object.contains(entitiesKey) || object.contains(rootKey)));
-}
-
 bool holdsObjects(const QJsonValue &value)
 {
     return value.isArray() || value.isObject();
@@ -86,20 +78,29 @@ bool holdsObjects(const QJsonValue &value)
 
 namespace Cli
 {
+bool isEntity(const QJsonObject &object)
+{
+    constexpr QLatin1StringView marks[] = {"selectable"_L1, "variables"_L1, "virtual"_L1};
+    return std::any_of(std::begin(marks), std::end(marks),
+                       [&object](auto key) { return object.contains(key); })
+        || (object.contains("name"_L1) && (object.contains(entitiesKey) || object.contains(rootKey)));
+}
+
 DictionaryDocument readDocument(const QString &path)
 {
-    const QJsonObject content = parse(path, readFile(path)).object();
+    const QByteArray text = readFile(path);
+    const QJsonObject content = parse(path, text).object();
     if (content.contains("database"_L1) && content.value("type"_L1) == "config"_L1)
         throw Failure(u"%1: is a run configuration, not a dictionary document"_s.arg(path));
     if (isEntity(content))
-        return {content, {}};
+        return {content, {}, DocumentFile::lossesOf(text)};
     // The layer looks at "entities" first and at "root" only without it.
     const QString key = content.contains(entitiesKey) ? entitiesKey : rootKey;
     if (!holdsObjects(content.value(key)))
         throw Failure(
             u"%1: is not a dictionary document: neither \"entities\" nor \"root\" nor an entity was found"_s
                 .arg(path));
-    return {content, key};
+    return {content, key, DocumentFile::lossesOf(text)};
 }
 
 Entities readEntities(const DictionaryDocument &document)
@@ -129,12 +130,11 @@ QJsonObject writeEntities(const Entities &entities, const DictionaryDocument &or
 
 std::unique_ptr<DictionaryFile> openDictionary(const QString &path)
 {
+    const Progress progress(u"Opening "_s + path);
     auto file = std::make_unique<DictionaryFile>();
-    if (file->open(path))
-        return file;
-    // Only some of its messages name the file.
-    const bool named = file->error() == DocumentFile::Error::CannotRead;
-    throw Failure(named ? file->errorText() : u"%1: %2"_s.arg(path, file->errorText()));
+    if (!file->open(path))
+        throw Failure(file->errorText());
+    return file;
 }
 
 TextPosition textPosition(const QByteArray &text, qsizetype offset)

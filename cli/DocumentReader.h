@@ -2,6 +2,7 @@
 
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -18,7 +19,13 @@ struct DictionaryDocument {
     QJsonObject content;
     /// The key that holds the entities, "entities" or "root"; empty when the document is an entity itself.
     QString rootKey;
+    /// What of the text no program keeps that parses it: keys that are there twice, digits beyond a number's.
+    QStringList unkept;
 };
+
+/// Whether \a object is an entity, not one that holds entities: it has keys that nothing but an entity has,
+/// or a name above further entities.
+[[nodiscard]] bool isEntity(const QJsonObject &object);
 
 /// Reads the dictionary document in the file at \a path. Throws Failure when it cannot be read, is not JSON
 /// (the message tells line and column) or is no dictionary.

@@ -2,6 +2,7 @@
 
 #include "cli/Failure.h"
 #include "cli/FieldDrop.h"
+#include "cli/Interruption.h"
 #include "cli/Output.h"
 #include "cli/Progress.h"
 #include "cli/Target.h"
@@ -55,6 +56,26 @@ SourceFields readFields(const Cli::ImportOptions &options)
     if (!fields.ok())
         throw Cli::Failure(messages(fields.errors).join(u'\n'));
     return fields;
+}
+
+QStringList run(Cli::FieldDrop &drop, const Cli::ImportOptions &options)
+{
+    const Cli::Progress progress(u"Making variables of "_s + options.dataFile);
+    try {
+        return drop.run();
+    } catch (const Cli::Failure &failure) {
+        throw Cli::Failure(u"%1: %2"_s.arg(options.dataFile, failure.message()));
+    }
+}
+
+void write(std::unique_ptr<TDcEntity> entity, const QString &path)
+{
+    const Cli::Progress progress(u"Writing "_s + path);
+    const Cli::Uninterrupted held;
+    DictionaryFile file;
+    file.setRoot(std::move(entity));
+    if (!file.saveAs(path, DocumentFile::OverwriteOthersChanges))
+        throw Cli::Failure(file.errorText());
 }
 
 std::unique_ptr<TDcEntity> newEntity(const Cli::ImportOptions &options)
@@ -139,17 +160,14 @@ void import(const ImportOptions &options, Output &output)
         drop.splitNamesAt(options.splitter);
     else if (!options.splitNames)
         drop.keepNamesWhole();
-    const QStringList renamed = drop.run();
+    const QStringList renamed = run(drop, options);
     if (entity->getVariables()->isEmpty())
         throw Failure(u"%1: there are no fields of a record \"%2\""_s.arg(options.dataFile, options.record));
     for (const QString &message : renamed)
         note(message);
 
     const qsizetype variables = entity->getVariables()->size();
-    DictionaryFile file;
-    file.setRoot(std::move(entity));
-    if (!file.saveAs(options.dictionary, DocumentFile::OverwriteOthersChanges))
-        throw Failure(file.errorText());
+    write(std::move(entity), options.dictionary);
     output.line(Text::printable(u"%1: written, %2"_s.arg(
         options.dictionary, Text::counted(variables, u"variable"_s, u"variables"_s))));
 }

@@ -44,14 +44,14 @@ bool Output::coloursSuitStandardOutput()
     return isatty(STDOUT_FILENO) && qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
 }
 
-int Output::columnsOfStandardOutput()
+int Output::columnsOf(int descriptor)
 {
-    if (!isatty(STDOUT_FILENO))
+    if (!isatty(descriptor))
         return 0;
     if (const int columns = qEnvironmentVariableIntValue("COLUMNS"); columns > 0)
         return columns;
     winsize size{};
-    return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
+    return ioctl(descriptor, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
 }
 
 QString Output::styled(const QString &text, int style) const

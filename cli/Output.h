@@ -28,8 +28,8 @@ public:
 
     [[nodiscard]] int columns() const { return m_columns; }
 
-    /// The width of standard output: what COLUMNS says, or the terminal. 0 when it is no terminal.
-    [[nodiscard]] static int columnsOfStandardOutput();
+    /// The width of the terminal behind \a descriptor: what COLUMNS says, or the terminal. 0 when it is none.
+    [[nodiscard]] static int columnsOf(int descriptor);
     /// Whether colours suit standard output: a terminal that knows them, and no NO_COLOR in the environment.
     [[nodiscard]] static bool coloursSuitStandardOutput();
 

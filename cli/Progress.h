@@ -1,12 +1,14 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QString>
+
+#include <atomic>
+#include <thread>
 
 namespace Cli
 {
 /// How far long work has come, told on standard error while that is a terminal. The line goes when the work
-/// ends, however it ends. Work that is done at once shows nothing.
+/// ends, however it ends, be it by Ctrl-C. Work that is done at once shows nothing.
 class Progress
 {
 public:
@@ -15,13 +17,16 @@ public:
     ~Progress();
     Q_DISABLE_COPY_MOVE(Progress)
 
-    /// \a part is what is done of the work, from 0 to 1.
+    /// \a part is what is done of the work, from 0 to 1. Without it the line tells the seconds that have
+    /// gone.
     void show(double part);
 
 private:
+    void tell(const std::stop_token &stop) const;
+    [[nodiscard]] QString line(int seconds) const;
+
     QString m_task; // Safe to print.
-    bool m_terminal;
-    bool m_shown = false;
-    QElapsedTimer m_sinceLast;
+    std::atomic<int> m_percent = -1;
+    std::jthread m_teller; // Tells while the work itself has no time to.
 };
 } // namespace Cli

@@ -161,6 +161,8 @@ namespace Cli
 QString Difference::toString() const
 {
     const QString where = place.isEmpty() ? key : place + u": "_s + key;
+    if (before.isUndefined())
+        return u"%1: added (%2)"_s.arg(where, shown(after));
     return after.isUndefined() ? u"%1: dropped (was %2)"_s.arg(where, shown(before))
                                : u"%1: changed from %2 to %3"_s.arg(where, shown(before), shown(after));
 }
@@ -181,6 +183,6 @@ RoundTrip roundTrip(const DictionaryDocument &document)
     const QJsonDocument again = QJsonDocument::fromJson(written, &error);
     if (error.error != QJsonParseError::NoError)
         throw Failure(u"the result could not be read again: %1"_s.arg(error.errorString()));
-    return {written, differences(document.content, again.object())};
+    return {written, differences(document.content, again.object()), document.unkept};
 }
 } // namespace Cli

@@ -6,6 +6,7 @@
 #include <QJsonValue>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace Cli
 {
@@ -15,7 +16,7 @@ struct Difference {
     /// document itself.
     QString place;
     QString key; ///< Within that entity or variable, such as `metadata/start`.
-    QJsonValue before;
+    QJsonValue before; ///< Undefined when the value was added.
     QJsonValue after; ///< Undefined when the value was dropped.
 
     [[nodiscard]] QString toString() const;
@@ -32,6 +33,9 @@ struct Difference {
 struct RoundTrip {
     QByteArray written;
     QList<Difference> losses;
+    QStringList unkept; ///< What was lost when the document was read, see DictionaryDocument.
+
+    [[nodiscard]] qsizetype lost() const { return losses.size() + unkept.size(); }
 };
 
 /// Reads \a document through the layer and writes it again. Throws Failure when the result could not be read.

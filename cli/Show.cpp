@@ -4,6 +4,7 @@
 #include "cli/Failure.h"
 #include "cli/NearMatches.h"
 #include "cli/Output.h"
+#include "cli/Progress.h"
 #include "cli/ShowJson.h"
 #include "cli/ShowText.h"
 #include "model/PreOrder.h"
@@ -18,6 +19,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
+Cli::Entities read(const QString &path)
+{
+    const Cli::Progress progress(u"Opening "_s + path);
+    return Cli::readEntities(Cli::readDocument(path));
+}
+
 QList<Cli::ShownEntity> inTreeOrder(const Cli::Entities &entities)
 {
     QList<Cli::ShownEntity> all;
@@ -68,7 +75,7 @@ void addShow(CLI::App &app, Output &output)
 
 void show(const QString &path, const QString &entity, ShowForm form, Output &output)
 {
-    const Entities entities = readEntities(readDocument(path));
+    const Entities entities = read(path);
     QList<ShownEntity> shown = inTreeOrder(entities);
     if (!entity.isEmpty()) {
         const QList<ShownEntity> all = shown;

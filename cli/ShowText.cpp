@@ -197,7 +197,9 @@ void Cli::showAsText(const QString &path, const QList<ShownEntity> &entities, Ou
                     + (label.isEmpty() ? QString() : u"  "_s + label));
         if (const QString documentation = printable(entity->getDocumentationEntity());
             !documentation.isEmpty()) {
-            for (const QString &line : Cli::Text::wrapped(documentation, documentationWidth))
+            const int columns = output.columns() > 0 ? output.columns() : documentationWidth;
+            for (const QString &line :
+                 Cli::Text::wrapped(documentation, std::min(columns, documentationWidth)))
                 output.line(line);
         }
         printVariables(*entity, output);

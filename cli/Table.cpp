@@ -11,7 +11,9 @@ using Cli::Table;
 namespace
 {
 constexpr int gap = 2;
-constexpr int narrowest = 8; // A column that gives way gives no more than this.
+// What a column of texts keeps while the others can still give way, and what it keeps in any case.
+constexpr int readable = 8;
+constexpr int narrowest = 4;
 
 QString blanks(int count)
 {
@@ -41,6 +43,17 @@ int widest(const QStringList &lines)
     return std::accumulate(lines.cbegin(), lines.cend(), 0, [](int width, const QString &line) {
         return std::max(width, Cli::Text::width(line));
     });
+}
+
+/// The widest column that can give way; -1 when there is none.
+qsizetype yielding(const QList<int> &widths, const QList<int> &limits)
+{
+    qsizetype widest = -1;
+    for (qsizetype column = 0; column < widths.size(); ++column) {
+        if (widths.at(column) > limits.at(column) && (widest < 0 || widths.at(column) > widths.at(widest)))
+            widest = column;
+    }
+    return widest;
 }
 
 QString withoutTrailingBlanks(QString line)
@@ -110,27 +123,44 @@ QList<int> Table::widths(int available) const
         widths.append(widthOf(column));
     const auto shown = std::count_if(widths.cbegin(), widths.cend(), [](int width) { return width > 0; });
     int excess = std::accumulate(widths.cbegin(), widths.cend(), int(shown - 1) * gap) - available;
-    while (available > 0 && excess > 0) {
-        int *yielding = nullptr;
-        for (qsizetype column = 0; column < widths.size(); ++column) {
-            int &width = widths[column];
-            if (m_columns.at(column).alignment == Left && width > narrowest
-                && (!yielding || width > *yielding))
-                yielding = &width;
+    if (available == 0 || excess <= 0)
+        return widths;
+    for (const int least : {readable, narrowest}) {
+        const QList<int> limits = leastWidths(least);
+        while (excess > 0) {
+            const qsizetype column = yielding(widths, limits);
+            if (column < 0)
+                break;
+            --widths[column];
+            --excess;
         }
-        if (!yielding)
-            break;
-        --*yielding;
-        --excess;
+    }
+    return widths;
+}
+
+/// What each column keeps: texts \a least, numbers what they and the words of their title need.
+QList<int> Table::leastWidths(int least) const
+{
+    QList<int> widths;
+    for (qsizetype column = 0; column < m_columns.size(); ++column) {
+        const auto &[title, alignment, most] = m_columns.at(column);
+        widths.append(alignment == Left ? least : std::max(widthOfCells(column), widest(title.split(u' '))));
     }
     return widths;
 }
 
 int Table::widthOf(qsizetype column) const
 {
+    const int width = widthOfCells(column);
+    return width == 0 ? 0 : std::max(width, Text::width(m_columns.at(column).title));
+}
+
+int Table::widthOfCells(qsizetype column) const
+{
     int width = 0;
     for (const QList<Cell> &row : m_rows)
         width = std::max(width, widest(broken(row.at(column), unlimited, m_columns.at(column).most)));
-    return width == 0 ? 0 : std::max(width, Text::width(m_columns.at(column).title));
+    return width;
 }
+
 } // namespace Cli

@@ -44,7 +44,9 @@ public:
 
 private:
     [[nodiscard]] QList<int> widths(int available) const;
+    [[nodiscard]] QList<int> leastWidths(int least) const;
     [[nodiscard]] int widthOf(qsizetype column) const;
+    [[nodiscard]] int widthOfCells(qsizetype column) const;
 
     QList<Column> m_columns;
     QList<QList<Cell>> m_rows;

@@ -1,6 +1,7 @@
 #include "cli/Target.h"
 
 #include "cli/Failure.h"
+#include "cli/Interruption.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
@@ -25,6 +26,7 @@ void Cli::checkTarget(const QString &in, const QString &out, Overwrite overwrite
 
 void Cli::save(const QString &path, const QByteArray &bytes)
 {
+    const Uninterrupted held;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
         throw Failure(u"%1: cannot be written: %2"_s.arg(path, file.errorString()));

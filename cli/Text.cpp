@@ -146,6 +146,11 @@ QStringList wrapped(const QString &text, int columns)
     return lines;
 }
 
+QString elided(const QString &text, int columns)
+{
+    return width(text) <= columns ? text : text.first(columns > 1 ? fitting(text, columns - 1) : 0) + u'…';
+}
+
 QString number(double value)
 {
     return QString::number(value, 'g', QLocale::FloatingPointShortest);

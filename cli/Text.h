@@ -21,6 +21,9 @@ namespace Cli::Text
 /// \a text in lines of at most \a columns, broken at blanks where there are any. At least one line.
 [[nodiscard]] QStringList wrapped(const QString &text, int columns);
 
+/// \a text, or its beginning with "…" so that it takes at most \a columns.
+[[nodiscard]] QString elided(const QString &text, int columns);
+
 /// A number in its shortest form.
 [[nodiscard]] QString number(double value);
 

@@ -17,6 +17,8 @@
 #include <functional>
 #include <iostream>
 
+#include <unistd.h>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace
@@ -68,7 +70,7 @@ int main(int argc, char **argv)
     QFile standardOutput;
     (void)standardOutput.open(stdout, QIODevice::WriteOnly);
     Cli::Output output(standardOutput, Cli::Output::coloursSuitStandardOutput(),
-                       Cli::Output::columnsOfStandardOutput());
+                       Cli::Output::columnsOf(STDOUT_FILENO));
     try {
         return run(argc, argv, output);
     } catch (const Cli::Failure &failure) {

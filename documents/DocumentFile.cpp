@@ -73,9 +73,14 @@ bool DocumentFile::open(const QString &path)
         m_errorText.prepend(QDir::toNativeSeparators(path) + u": "_s); // load() said what, not where.
         return false;
     }
-    m_losses = JsonLosses::of(bytes);
+    m_losses = lossesOf(bytes);
     remember(path, bytes);
     return true;
+}
+
+QStringList DocumentFile::lossesOf(const QByteArray &bytes)
+{
+    return JsonLosses::of(bytes);
 }
 
 bool DocumentFile::isReadOnly() const

@@ -64,6 +64,9 @@ public:
     /// has more than once and numbers with more digits than a number has.
     [[nodiscard]] QStringList losses() const { return m_losses; }
 
+    /// The same for any JSON text, which must be well-formed.
+    [[nodiscard]] static QStringList lossesOf(const QByteArray &bytes);
+
     /// Why the last operation failed.
     [[nodiscard]] Error error() const { return m_error; }
     [[nodiscard]] QString errorText() const { return m_errorText; }

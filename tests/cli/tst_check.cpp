@@ -70,6 +70,14 @@ private Q_SLOTS:
         QCOMPARE(content.value("findings"_L1), QJsonValue(QJsonArray()));
     }
 
+    void anErrorNamesTheFileOnce()
+    {
+        const TestFolder folder;
+        const QString path = folder.write(u"d.mvdb"_s, "{\n\"a\":");
+        QCOMPARE(runProgram({u"check"_s, path}).errors.count(path), 1);
+        QCOMPARE(runProgram({u"check"_s, path + u'x'}).errors.count(path), 1);
+    }
+
     void whatCannotBeReadIsAnError_data()
     {
         QTest::addColumn<QByteArray>("content");

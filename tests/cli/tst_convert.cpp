@@ -62,6 +62,22 @@ private Q_SLOTS:
         QVERIFY(!written.contains("why"));
     }
 
+    void whatTheParserDropsIsLostToo()
+    {
+        const TestFolder folder;
+        const QString in = folder.write(
+            u"in.mvdb"_s,
+            json("{'root': [{'name': 'A', 'name': 'B', 'selectable': true, 'virtual': false}]}"));
+        const QString out = folder.path(u"out.mvdb"_s);
+        const ProgramRun run = runProgram({u"convert"_s, in, out});
+        QCOMPARE(run.output,
+                 u"line 1, column 25: root[0].name is there more than once; only the last is kept\n"
+                 "%1: not written, 1 value lost (--lossy writes it all the same)\n"_s.arg(out));
+        QCOMPARE(run.status, 1);
+        QVERIFY(!QFile::exists(out));
+        QCOMPARE(runProgram({u"convert"_s, u"--lossy"_s, in, out}).status, 0);
+    }
+
     void overwritingKeepsThePermissions()
     {
         const TestFolder folder;

@@ -85,6 +85,75 @@ private Q_SLOTS:
             QJsonDocument::fromJson(same.output.toUtf8()).object().value("changes"_L1).toArray().isEmpty());
     }
 
+    void keysThatAreNotKnownCount_data()
+    {
+        QTest::addColumn<QByteArray>("changed");
+        QTest::addColumn<QString>("text");
+        const auto edited = [](const char *from, const char *to) {
+            return QByteArray(before).replace(json(from), json(to));
+        };
+        QTest::addRow("changed") << edited("[1]", "[2]")
+                                 << u"Other key A: unknown: changed from {\"key\":[1]} to {\"key\":[2]}\n"_s;
+        QTest::addRow("dropped") << edited("'unknown': {'key': [1]}, ", "")
+                                 << u"Other key A: unknown: dropped (was {\"key\":[1]})\n"_s;
+        QTest::addRow("added to a variable")
+            << edited("'AGE', ", "'AGE', 'id': 7, ") << u"Other key A/AGE: id: added (7)\n"_s;
+        QTest::addRow("added to a category") << edited("'Baby'", "'Baby', 'colour': 'red'")
+                                             << u"Other key A/AGE [1]: colour: added (\"red\")\n"_s;
+        QTest::addRow("of an added layout")
+            << edited("'AGE', ", "'AGE', 'metadata': {'x': 1}, ") << u"Layout A/AGE added\n"_s;
+        QTest::addRow("around the root")
+            << "{\"format\": 2, \"root\": [" + before + "]}" << u"Other key format: added (2)\n"_s;
+        QTest::addRow("of a renamed variable")
+            << edited("'AGE', ", "'YEARS', 'id': 7, ")
+            << u"Variable A/AGE renamed to \"YEARS\"\nOther key A/YEARS: id: added (7)\n"_s;
+        QTest::addRow("of an added variable")
+            << edited("'variables': [", "'variables': [{'name': 'B', 'id': 7}, ")
+            << u"Variable A/B added\n"_s;
+    }
+    void keysThatAreNotKnownCount()
+    {
+        QFETCH(QByteArray, changed);
+        const TestFolder folder;
+        const ProgramRun run =
+            runProgram({u"diff"_s, folder.write(u"a.mvdb"_s, before), folder.write(u"b.mvdb"_s, changed)});
+        QCOMPARE(run.errors, QString());
+        QTEST(run.output, "text");
+        QCOMPARE(run.status, 1);
+    }
+
+    void keysThatAreNotKnownCountInLayoutsAndRangesToo()
+    {
+        const QByteArray layout =
+            json("{'name': 'A', 'variables': [{'name': 'V', 'metadata': {'x': 1, 'range': "
+                 "{'min': 1, 'max': 2, 'step': 1}}}]}");
+        const QByteArray other = QByteArray(layout).replace("\"x\": 1", "\"x\": 2").replace("step", "steps");
+        const TestFolder folder;
+        const ProgramRun run =
+            runProgram({u"diff"_s, folder.write(u"a.mvdb"_s, layout), folder.write(u"b.mvdb"_s, other)});
+        QCOMPARE(run.output,
+                 u"Other key A/V: x: changed from 1 to 2\n"
+                 "Other key A/V [1 - 2]: step: dropped (was 1)\n"
+                 "Other key A/V [1 - 2]: steps: added (1)\n"_s);
+        QCOMPARE(run.status, 1);
+    }
+
+    void keysThatAreNotKnownStandInTheJson()
+    {
+        const TestFolder folder;
+        const QString left = folder.write(u"a.mvdb"_s, before);
+        const QString right = folder.write(u"b.mvdb"_s, QByteArray(before).replace("unknown", "known"));
+        const ProgramRun run = runProgram({u"diff"_s, u"--json"_s, left, right});
+        QCOMPARE(run.status, 1);
+        const QJsonArray others =
+            QJsonDocument::fromJson(run.output.toUtf8()).object().value("otherKeys"_L1).toArray();
+        QCOMPARE(others.size(), 2);
+        QCOMPARE(others[0]["key"_L1].toString(), u"unknown"_s);
+        QVERIFY(others[0]["before"_L1].isObject() && others[0]["after"_L1].isUndefined());
+        QCOMPARE(others[1]["path"_L1].toString(), u"A"_s);
+        QVERIFY(others[1]["after"_L1].isObject() && others[1]["before"_L1].isUndefined());
+    }
+
     void errorsHaveStatusTwo_data()
     {
         QTest::addColumn<QStringList>("names");

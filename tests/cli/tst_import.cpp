@@ -185,7 +185,7 @@ private Q_SLOTS:
         if (header.contains('-'))
             arguments += {u"--splitter=-"_s};
         const ProgramRun run = runProgram(arguments);
-        QVERIFY2(run.errors.endsWith(u"quillon: %1\n"_s.arg(error)), qPrintable(run.errors));
+        QVERIFY2(run.errors.endsWith(u"quillon: %1: %2\n"_s.arg(in, error)), qPrintable(run.errors));
         QCOMPARE(run.status, 2);
         QVERIFY(!QFile::exists(folder.path(u"d.mvdb"_s)));
     }

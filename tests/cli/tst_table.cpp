@@ -83,7 +83,16 @@ private Q_SLOTS:
     {
         Table table({{u"Name"_s}, {u"Label"_s}});
         table.addRow({{u"ABCDEFGHIJ"_s}, {u"abc def ghi"_s}});
-        QCOMPARE(printed(table, false, 1), u"Name      Label\nABCDEFGH  abc def\nIJ        ghi\n"_s);
+        QCOMPARE(printed(table, false, 18), u"Name      Label\nABCDEFGH  abc def\nIJ        ghi\n"_s);
+        QCOMPARE(printed(table, false, 14), u"Name    Label\nABCDEF  abc\nGHIJ    def\n        ghi\n"_s);
+        QCOMPARE(printed(table, false, 1), u"Name  Labe\n      l\nABCD  abc\nEFGH  def\nIJ    ghi\n"_s);
+    }
+
+    void titlesOfNumbersGoOnInTheNextLineOnANarrowTerminal()
+    {
+        Table table({{u"Name"_s}, {u"Not appl."_s, Table::Right}});
+        table.addRow({{u"ABC"_s}, {u"-98"_s}});
+        QCOMPARE(printed(table, false, 11), u"Name    Not\n      appl.\nABC     -98\n"_s);
     }
 
     void outputThatCannotBeWrittenIsAFailure()

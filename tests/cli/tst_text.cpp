@@ -80,6 +80,22 @@ private Q_SLOTS:
         QTEST(Text::wrapped(text, 7), "lines");
     }
 
+    void elides_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("shown");
+        QTest::addRow("fits") << u"abcdefg"_s << u"abcdefg"_s;
+        QTest::addRow("too long") << u"abcdefgh"_s << u"abcdef…"_s;
+        QTest::addRow("wide") << u"年齢年齢"_s << u"年齢年…"_s;
+        QTest::addRow("surrogates stay together") << u"abcde🚜🚜"_s << u"abcde…"_s;
+    }
+    void elides()
+    {
+        QFETCH(QString, text);
+        QTEST(Text::elided(text, 7), "shown");
+        QCOMPARE(Text::elided(u"ab"_s, 1), u"…"_s);
+    }
+
     void wrappingComesToAnEndInTheNarrowestColumn() { QCOMPARE(Text::wrapped(u"年齢"_s, 1).size(), 2); }
 
     void countsThings()
