@@ -24,12 +24,15 @@ DescriptionPage::DescriptionPage(RunDraft *draft, QWidget *parent) : RunPage(dra
     setSubTitle(tr("What the run is called, who makes it, and where its data come from."));
 
     auto *fields = new QWidget;
-    auto *form = new QFormLayout(fields);
+    auto *top = new QVBoxLayout(fields);
+    auto *form = new QFormLayout;
+    top->addLayout(form);
+    top->addStretch(); // Not between the rows.
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     addUnknown(form);
     QLineEdit *name = addText<&Db::getName, &Db::setName>(form, tr("Na&me"));
     name->setObjectName(u"name"_s);
-    form->addRow(QString(), problemLabel());
+    form->addRow(QString(), problemRow());
     connect(name, &QLineEdit::textChanged, this, [this, name] {
         showProblem();
         name->setAccessibleDescription(problem());

@@ -35,7 +35,7 @@ EntitiesPage::EntitiesPage(RunDraft *draft, QWidget *parent)
     row->addWidget(makeSettings(), 1);
     auto *column = new QVBoxLayout(this);
     column->addLayout(row);
-    column->addWidget(problemLabel());
+    column->addWidget(problemRow());
 
     connect(m_proxy, &QAbstractItemModel::dataChanged, this, &EntitiesPage::showSettings);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,

@@ -25,10 +25,12 @@ protected:
     void showProblem();
 
     [[nodiscard]] RunDraft &draft() const { return *m_draft; }
-    /// The words of problem(), for the page to put next to what they are about.
-    [[nodiscard]] QLabel *problemLabel() const { return m_problem; }
+    /// Shows the words of problem(); for the page to put next to what they are about.
+    [[nodiscard]] QWidget *problemRow() const { return m_row; }
 
 private:
     RunDraft *m_draft; // Not owned.
+    QWidget *m_row;
+    QLabel *m_sign;
     QLabel *m_problem;
 };

@@ -1,5 +1,6 @@
 #include "workbench/run/RunWords.h"
 
+#include "common/Constants.h"
 #include "model/Config.h"
 #include "model/TDcEntity.h"
 #include "model/TDcVariable.h"
@@ -76,27 +77,26 @@ QStringList RunWords::unknown(const RunDraft &draft)
 
 namespace
 {
-/// One line of the summary for \a entity, with what is special about it below.
+/// One line of the summary for \a entity: sentences, each for itself.
 QString entityLine(const RunDraft &draft, const TDcEntity *entity)
 {
     const ConfigEntities &settings = draft.settings(entity);
     const QString name = u"<b>"_s + entity->getName().toHtmlEscaped() + u"</b>"_s;
     const QLocale locale;
-    const QString line = settings.getAllVariables()
-        ? RunWords::tr("%1 with all variables").arg(name)
-        : RunWords::tr("%1 with %2 of %3 variables")
-              .arg(name, locale.toString(RunDraft::checkedVariables(entity).size()),
-                   locale.toString(entity->getVariables()->size()));
-    QStringList special;
+    QStringList sentences{settings.getAllVariables()
+                              ? RunWords::tr("%1 with all variables.").arg(name)
+                              : RunWords::tr("%1 with %2 of %3 variables.")
+                                    .arg(name, locale.toString(RunDraft::checkedVariables(entity).size()),
+                                         locale.toString(entity->getVariables()->size()))};
     if (!settings.getRecType().isEmpty())
-        special.append(RunWords::tr("The record type is %1.").arg(settings.getRecType()));
+        sentences.append(RunWords::tr("The record type is %1.").arg(settings.getRecType().toHtmlEscaped()));
     if (!settings.getCheckSequence())
-        special.append(RunWords::tr("The sequence of its records is not checked."));
+        sentences.append(RunWords::tr("The sequence of its records is not checked."));
     if (settings.getCreateSDC())
-        special.append(RunWords::tr("SDC is created."));
+        sentences.append(RunWords::tr("SDC is created."));
     if (settings.getCheckDelete())
-        special.append(RunWords::tr("It is marked for deletion."));
-    return line + bullets(escaped(special));
+        sentences.append(RunWords::tr("It is marked for deletion."));
+    return sentences.join(Constants::blank);
 }
 
 QStringList facts(const ConfigDb &database)

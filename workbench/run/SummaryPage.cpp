@@ -40,7 +40,7 @@ SummaryPage::SummaryPage(RunDraft *draft, QWidget *parent)
     auto *column = new QVBoxLayout(this);
     column->addWidget(m_summary);
     column->addLayout(row);
-    column->addWidget(problemLabel());
+    column->addWidget(problemRow());
 }
 
 void SummaryPage::initializePage()

@@ -52,7 +52,7 @@ VariablesPage::VariablesPage(RunDraft *draft, Step step, QWidget *parent)
     row->addWidget(makeVariables(), 3);
     auto *column = new QVBoxLayout(this);
     column->addLayout(row);
-    column->addWidget(problemLabel());
+    column->addWidget(problemRow());
     connect(m_entities, &QListWidget::currentRowChanged, this, &VariablesPage::showEntity);
 }
 
@@ -84,6 +84,7 @@ QWidget *VariablesPage::makeEntities()
 {
     m_entities->setObjectName(u"entities"_s);
     m_entities->setAccessibleName(tr("Entities that take part"));
+    m_entities->setSpacing(2);
     auto *caption = new QLabel(tr("&Entities"));
     caption->setBuddy(m_entities);
     auto *side = new QWidget(this);
@@ -197,10 +198,20 @@ void VariablesPage::showEntity()
     m_model = makeModel(entity);
     m_checkable->setSourceModel(m_model);
     connect(m_model, &QAbstractItemModel::dataChanged, this, &VariablesPage::followChecks);
-    m_view->resizeColumnToContents(0);
-    m_view->setColumnWidth(1, 28 * fontMetrics().averageCharWidth());
+    arrangeColumns();
     setFilter(m_filter->text());
     showCounts();
+}
+
+void VariablesPage::arrangeColumns()
+{
+    constexpr int letters[] = {18, 30, 10, 15, 7}; // The label takes what is left.
+    constexpr int labelColumn = 1;
+    QHeaderView *header = m_view->horizontalHeader();
+    header->setStretchLastSection(false);
+    for (int column = 0; column < header->count(); ++column)
+        header->resizeSection(column, letters[column] * fontMetrics().averageCharWidth());
+    header->setSectionResizeMode(labelColumn, QHeaderView::Stretch);
 }
 
 void VariablesPage::setFilter(const QString &text)

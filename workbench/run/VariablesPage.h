@@ -43,6 +43,7 @@ private:
     [[nodiscard]] CheckListModel *makeModel(TDcEntity *entity);
 
     void showEntity();
+    void arrangeColumns();
     void setFilter(const QString &text);
     /// Follows checks that were changed.
     void followChecks();
