@@ -73,13 +73,18 @@ void TestEntityChoiceProxy::announcesWhatGoesWithIt()
         findEntity(m_root.get(), name)->setSelectable(true);
     QStringList announced;
     connect(m_proxy.get(), &QAbstractItemModel::dataChanged, this,
-            [&announced](const QModelIndex &index) { announced.append(index.data().toString()); });
+            [&announced](const QModelIndex &first, const QModelIndex &last) {
+                for (int row = first.row(); row <= last.row(); ++row)
+                    announced.append(first.siblingAtRow(row).data().toString());
+            });
+    const QSignalSpy once(m_proxy.get(), &EntityChoiceProxy::marksChanged);
     const MessageBoxAnswer box({u"Yes"_s});
     m_proxy->setData(m_proxy->indexOf(findEntity(m_root.get(), u"HOUSEHOLD")), Qt::Unchecked,
                      Qt::CheckStateRole);
     QCOMPARE(box.shown().size(), 1);
     QVERIFY(!findEntity(m_root.get(), u"PERSON")->getSelectable());
     announced.sort();
+    QCOMPARE(once.size(), 1);
     QCOMPARE(announced, QStringList({u"DEATH"_s, u"HOUSEHOLD"_s, u"PERSON"_s}));
 }
 

@@ -10,6 +10,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
+#include <QDir>
 #include <QDropEvent>
 #include <QFile>
 #include <QFileInfo>
@@ -56,9 +57,11 @@ private Q_SLOTS:
     void refusesADamagedFile();
     void opensADroppedFile();
     void keepsAPasswordFilePrivate();
+    void staysWhenSavingFails_data();
     void staysWhenSavingFails();
     void asksBeforeItOverwrites_data();
     void asksBeforeItOverwrites();
+    void asksBeforeAFileLosesContent();
     void asksBeforeChoicesAreLost_data();
     void asksBeforeChoicesAreLost();
     void leavesTheDictionaryUnmodified();
@@ -520,18 +523,36 @@ void TestRunWizard::keepsAPasswordFilePrivate()
     QCOMPARE(saved().value(u"database"_s).toObject().value(u"password"_s), u"open sesame"_s);
 }
 
+void TestRunWizard::staysWhenSavingFails_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addRow("no such folder") << u"missing/run.lsd.json"_s;
+    QTest::addRow("a folder in the way") << u"folder.lsd.json"_s;
+    QTest::addRow("read-only") << u"run.lsd.json"_s;
+}
+
 void TestRunWizard::staysWhenSavingFails()
 {
+    QFETCH(const QString, path);
+    QVERIFY(QDir(m_folder->path()).mkdir(u"folder.lsd.json"_s));
     QVERIFY(start(R"({"database": {"name": "x"}, "entities": [{"name": "PERSON", "allVariables": true}]})"));
     goTo(u"runSummaryPage"_s);
-    find<QLineEdit>(u"path"_s)->setText(m_folder->filePath(u"missing/run.lsd.json"_s));
-    const MessageBoxAnswer box({u"OK"_s});
-    wizard()->button(QWizard::FinishButton)->click();
-    QCOMPARE(box.shown().size(), 1);
-    QCOMPARE(box.shown().first().icon, QMessageBox::Critical);
+    QVERIFY(QFile::setPermissions(m_folder->filePath(u"run.lsd.json"_s), QFile::ReadOwner));
+    find<QLineEdit>(u"path"_s)->setText(m_folder->filePath(path));
+    {
+        // A folder looks like a file to be replaced until it is tried.
+        const MessageBoxAnswer box(QFileInfo(m_folder->filePath(path)).isDir()
+                                       ? QStringList{u"Replace"_s, u"OK"_s}
+                                       : QStringList{u"OK"_s});
+        wizard()->button(QWizard::FinishButton)->click();
+        QVERIFY(!box.shown().isEmpty());
+        QCOMPARE(box.shown().last().icon, QMessageBox::Critical);
+    }
+    const MessageBoxAnswer nothing;
     QVERIFY(wizard());
     find<QLineEdit>(u"path"_s)->setText(m_folder->filePath(u"other.json"_s));
     wizard()->button(QWizard::FinishButton)->click();
+    QCOMPARE(nothing.shown().size(), 0);
     QVERIFY(!wizard());
     QVERIFY(!saved(u"other.lsd.json"_s).isEmpty());
 }
@@ -565,6 +586,20 @@ void TestRunWizard::asksBeforeItOverwrites()
     QCOMPARE(box.shown().first().defaultButton, u"Cancel"_s);
     QCOMPARE(wizard() == nullptr, saves);
     QCOMPARE(saved(file).contains(u"other"_s), !saves);
+}
+
+void TestRunWizard::asksBeforeAFileLosesContent()
+{
+    QVERIFY(start(R"({"database": {"name": "x"}, "own": 1, "own": 2,
+                     "entities": [{"name": "PERSON", "allVariables": true}]})"));
+    goTo(u"runSummaryPage"_s);
+    const MessageBoxAnswer box({u"Cancel"_s, u"Save Anyway"_s});
+    wizard()->button(QWizard::FinishButton)->click();
+    QVERIFY(wizard());
+    wizard()->button(QWizard::FinishButton)->click();
+    QVERIFY(!wizard());
+    QCOMPARE(box.shown().size(), 2);
+    QCOMPARE(saved().value(u"own"_s), 2);
 }
 
 void TestRunWizard::asksBeforeChoicesAreLost_data()

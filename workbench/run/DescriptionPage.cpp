@@ -40,10 +40,9 @@ DescriptionPage::DescriptionPage(RunDraft *draft, QWidget *parent) : RunPage(dra
     addText<&Db::getLabel, &Db::setLabel>(form, tr("&Label"))->setObjectName(u"label"_s);
     addText<&Db::getAuthor, &Db::setAuthor>(form, tr("&Author"))->setObjectName(u"author"_s);
     addText<&Db::getProject, &Db::setProject>(form, tr("&Project"))->setObjectName(u"project"_s);
-    QLineEdit *folder = addText<&Db::getFolder, &Db::setFolder>(form, tr("F&older"));
-    addBrowse(form, folder, tr("Choose the Folder"), true);
-    QLineEdit *source = addText<&Db::getSourceFile, &Db::setSourceFile>(form, tr("&Source file"));
-    addBrowse(form, source, tr("Choose the Source File"), false);
+    addPath<&Db::getFolder, &Db::setFolder>(form, tr("F&older"), tr("Choose the Folder"), true);
+    addPath<&Db::getSourceFile, &Db::setSourceFile>(form, tr("&Source file"), tr("Choose the Source File"),
+                                                    false);
     addText<&Db::getFilter, &Db::setFilter>(form, tr("Fil&ter"))->setObjectName(u"filter"_s);
     addText<&Db::getSelectFilter, &Db::setSelectFilter>(form, tr("Sele&ction filter"));
     addText<&Db::getFileFilter, &Db::setFileFilter>(form, tr("F&ile filter"));
@@ -87,13 +86,43 @@ void DescriptionPage::addUnknown(QFormLayout *form)
 }
 
 template <auto Get, auto Set>
-QLineEdit *DescriptionPage::addText(QFormLayout *form, const QString &label)
+QLineEdit *DescriptionPage::makeText()
 {
     auto *field = new QLineEdit((draft().dataBase().*Get)());
     connect(field, &QLineEdit::textChanged, this,
             [this](const QString &text) { (draft().dataBase().*Set)(text); });
+    return field;
+}
+
+template <auto Get, auto Set>
+QLineEdit *DescriptionPage::addText(QFormLayout *form, const QString &label)
+{
+    QLineEdit *field = makeText<Get, Set>();
     form->addRow(label, field);
     return field;
+}
+
+template <auto Get, auto Set>
+void DescriptionPage::addPath(QFormLayout *form, const QString &label, const QString &title, bool folder)
+{
+    QLineEdit *field = makeText<Get, Set>();
+    auto *caption = new QLabel(label);
+    caption->setBuddy(field);
+    auto *button = new QToolButton;
+    button->setText(u"…"_s);
+    button->setToolTip(title);
+    button->setAccessibleName(title);
+    button->setFocusPolicy(Qt::TabFocus);
+    connect(button, &QToolButton::clicked, this, [this, field, title, folder] {
+        const QString path = folder ? QFileDialog::getExistingDirectory(this, title, field->text())
+                                    : QFileDialog::getOpenFileName(this, title, field->text());
+        if (!path.isEmpty())
+            field->setText(path);
+    });
+    auto *row = new QHBoxLayout;
+    row->addWidget(field);
+    row->addWidget(button);
+    form->addRow(caption, row);
 }
 
 template <auto Get, auto Set>
@@ -103,29 +132,4 @@ void DescriptionPage::addOption(QFormLayout *form, const QString &caption)
     box->setChecked((draft().options().*Get)());
     connect(box, &QCheckBox::toggled, this, [this](bool checked) { (draft().options().*Set)(checked); });
     form->addRow(QString(), box);
-}
-
-void DescriptionPage::addBrowse(QFormLayout *form, QLineEdit *field, const QString &title, bool folder)
-{
-    // The field has a row of its own already; the row becomes one of field and button.
-    auto *button = new QToolButton;
-    button->setText(u"…"_s);
-    button->setToolTip(title);
-    button->setAccessibleName(title);
-    button->setFocusPolicy(Qt::TabFocus);
-    const QFormLayout::TakeRowResult row = form->takeRow(field);
-    auto *label = qobject_cast<QLabel *>(row.labelItem->widget());
-    delete row.labelItem;
-    delete row.fieldItem;
-    auto *both = new QHBoxLayout;
-    both->addWidget(field);
-    both->addWidget(button);
-    form->addRow(label, both);
-    label->setBuddy(field);
-    connect(button, &QToolButton::clicked, this, [this, field, title, folder] {
-        const QString path = folder ? QFileDialog::getExistingDirectory(this, title, field->text())
-                                    : QFileDialog::getOpenFileName(this, title, field->text());
-        if (!path.isEmpty())
-            field->setText(path);
-    });
 }

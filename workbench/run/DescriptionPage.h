@@ -19,10 +19,14 @@ protected:
 
 private:
     void addUnknown(QFormLayout *form);
+    /// A field for the property of the database that \a Get and \a Set stand for.
+    template <auto Get, auto Set>
+    [[nodiscard]] QLineEdit *makeText();
     template <auto Get, auto Set>
     QLineEdit *addText(QFormLayout *form, const QString &label);
     template <auto Get, auto Set>
     void addOption(QFormLayout *form, const QString &caption);
-    /// Puts a button beside \a field that lets choose a folder or a file.
-    void addBrowse(QFormLayout *form, QLineEdit *field, const QString &title, bool folder);
+    /// A field with a button beside it that lets choose a folder or a file.
+    template <auto Get, auto Set>
+    void addPath(QFormLayout *form, const QString &label, const QString &title, bool folder);
 };

@@ -37,7 +37,7 @@ EntitiesPage::EntitiesPage(RunDraft *draft, QWidget *parent)
     column->addLayout(row);
     column->addWidget(problemRow());
 
-    connect(m_proxy, &QAbstractItemModel::dataChanged, this, &EntitiesPage::showSettings);
+    connect(m_proxy, &EntityChoiceProxy::marksChanged, this, &EntitiesPage::showSettings);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &EntitiesPage::showSettings);
     m_view->setCurrentIndex(m_proxy->index(0, 0));
@@ -59,15 +59,15 @@ QWidget *EntitiesPage::makeTree()
     buttons->addWidget(all);
     buttons->addWidget(none);
     buttons->addStretch();
-    setTabOrder(m_view, all);
-    setTabOrder(all, none);
-    setTabOrder(none, m_recType);
     auto *side = new QWidget(this);
     auto *column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(caption);
     column->addWidget(m_view);
     column->addLayout(buttons);
+    setTabOrder(m_view, all);
+    setTabOrder(all, none);
+    setTabOrder(none, m_recType);
     return side;
 }
 

@@ -20,12 +20,16 @@ bool EntityChoiceProxy::setData(const QModelIndex &index, const QVariant &value,
 
 void EntityChoiceProxy::announceMarks(const QModelIndex &parent)
 {
+    if (parent.isValid())
+        Q_EMIT dataChanged(parent, parent);
     QList<QModelIndex> pending{parent};
     while (!pending.isEmpty()) {
         const QModelIndex node = pending.takeLast();
-        if (node.isValid())
-            Q_EMIT dataChanged(node, node);
-        for (int row = 0; row < rowCount(node); ++row)
+        const int rows = rowCount(node);
+        if (rows > 0)
+            Q_EMIT dataChanged(index(0, 0, node), index(rows - 1, 0, node));
+        for (int row = 0; row < rows; ++row)
             pending.append(index(row, 0, node));
     }
+    Q_EMIT marksChanged();
 }

@@ -15,6 +15,10 @@ public:
     /// Takes check states alone. Clearing one asks what is to become of selectable entities below.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
-    /// Says that marks at \a parent and below it have changed.
+    /// Says that marks may have changed, those at \a parent and below it.
     void announceMarks(const QModelIndex &parent = {});
+
+Q_SIGNALS:
+    /// Once for each change, after the rows were announced.
+    void marksChanged();
 };
