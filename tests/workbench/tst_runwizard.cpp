@@ -62,6 +62,7 @@ private Q_SLOTS:
     void asksBeforeItOverwrites_data();
     void asksBeforeItOverwrites();
     void asksBeforeAFileLosesContent();
+    void proposesAFileCalledAsTheRun();
     void asksBeforeChoicesAreLost_data();
     void asksBeforeChoicesAreLost();
     void leavesTheDictionaryUnmodified();
@@ -586,6 +587,26 @@ void TestRunWizard::asksBeforeItOverwrites()
     QCOMPARE(box.shown().first().defaultButton, u"Cancel"_s);
     QCOMPARE(wizard() == nullptr, saves);
     QCOMPARE(saved(file).contains(u"other"_s), !saves);
+}
+
+void TestRunWizard::proposesAFileCalledAsTheRun()
+{
+    QSettings().setValue(u"lastFolder"_s, m_folder->path());
+    QVERIFY(start());
+    goTo(u"runEntitiesPage"_s);
+    button(u"Select All"_s)->click();
+    goTo(u"runSummaryPage"_s);
+    QCOMPARE(find<QLineEdit>(u"path"_s)->text(), m_folder->filePath(u"CENSUS.lsd.json"_s));
+    wizard()->restart();
+    find<QLineEdit>(u"name"_s)->setText(u"a/b"_s);
+    goTo(u"runSummaryPage"_s);
+    QCOMPARE(find<QLineEdit>(u"path"_s)->text(), m_folder->filePath(u"a_b.lsd.json"_s));
+    find<QLineEdit>(u"path"_s)->setText(u"mine"_s);
+    wizard()->restart();
+    goTo(u"runSummaryPage"_s);
+    QCOMPARE(find<QLineEdit>(u"path"_s)->text(), u"mine"_s);
+    wizard()->button(QWizard::FinishButton)->click();
+    QVERIFY(!saved(u"mine.lsd.json"_s).isEmpty());
 }
 
 void TestRunWizard::asksBeforeAFileLosesContent()

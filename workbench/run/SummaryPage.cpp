@@ -46,13 +46,21 @@ SummaryPage::SummaryPage(RunDraft *draft, QWidget *parent)
 void SummaryPage::initializePage()
 {
     m_summary->setHtml(RunWords::summary(draft()));
-    if (m_path->text().isEmpty()) {
-        const QString name = draft().dataBase().getName().trimmed().replace(u'/', u'_');
-        const QString proposal = QDir(FileDialogs::lastFolder()).filePath(name + Constants::configExtension);
-        m_path->setText(
-            QDir::toNativeSeparators(draft().file().path().isEmpty() ? proposal : draft().file().path()));
-    }
+    // Follows the run's name until the person says otherwise.
+    if (m_path->text() == m_proposal)
+        m_path->setText(proposal());
+    m_proposal = proposal();
     RunPage::initializePage();
+}
+
+QString SummaryPage::proposal() const
+{
+    QString path = draft().file().path();
+    if (path.isEmpty()) {
+        const QString name = draft().dataBase().getName().trimmed().replace(u'/', u'_');
+        path = QDir(FileDialogs::lastFolder()).filePath(name + Constants::configExtension);
+    }
+    return QDir::toNativeSeparators(path);
 }
 
 QString SummaryPage::problem() const

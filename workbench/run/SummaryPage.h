@@ -23,9 +23,11 @@ protected:
 private:
     /// Where to save, as an absolute path with the usual ending; empty when nothing was typed.
     [[nodiscard]] QString path() const;
+    [[nodiscard]] QString proposal() const;
     [[nodiscard]] bool mayReplace(const QString &path);
     void browse();
 
     QTextBrowser *m_summary;
     QLineEdit *m_path;
+    QString m_proposal; // What stood in m_path when the page was shown last.
 };
