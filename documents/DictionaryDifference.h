@@ -26,6 +26,8 @@ struct DOCUMENTS_EXPORT DictionaryChange {
     QVariant before; ///< Of Changed and Renamed the value, of Moved the path or position; invalid for Added.
     QVariant after; ///< Likewise; invalid for Removed.
 
+    /// The property, translated.
+    [[nodiscard]] QString propertyText() const;
     /// One line: "Variable PERSON/AGE: label changed from "Age" to "Age in years"".
     [[nodiscard]] QString text() const;
 };

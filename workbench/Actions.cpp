@@ -150,7 +150,7 @@ QList<Actions::Row> Actions::table()
          MenuOnly,
          "48px-Entity-weight",
          {},
-         TEXT("Use as &Weight"),
+         TEXT("Use as Wei&ght"),
          TEXT("Make the variable the entity's weight, or stop it")},
         {VariableDuplicates,
          MenuId::Variable,

@@ -8,11 +8,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CommandLine", text);
-}
-
 /// The size in "1280x800"; empty when \a text is none.
 QSize toSize(const QString &text)
 {

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QSize>
 #include <QString>
 #include <QStringList>
 
 /// What the person asked for when starting the program.
 struct CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
     QString screenshot; ///< Draw the window into this file and quit; empty for normal use.
     QString tour; ///< Go through what there is, draw it into this folder and quit; empty for normal use.
     QSize size; ///< Of the window; empty for the size it had last.

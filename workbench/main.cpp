@@ -63,6 +63,7 @@ int main(int argc, char *argv[])
     QApplication::setDesktopFileName(u"quillon-workbench"_s);
     QApplication::setWindowIcon(QIcon(u":/icons/quillon-workbench.png"_s));
 
+    Translations::install({}); // For what is said about the arguments.
     const CommandLine line = CommandLine::parse(QApplication::arguments());
     if (!line.error.isEmpty())
         return fail(line.error);

@@ -12,10 +12,9 @@ using namespace Difference;
 using Kind = DictionaryChange::Kind;
 using What = DictionaryChange::What;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("DictionaryDifference", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(DictionaryDifference)
+};
 
 QString below(const QString &path, const QString &name)
 {
@@ -159,7 +158,7 @@ QString shown(const QVariant &value)
     if (value.typeId() == QMetaType::QString)
         return u"\"%1\""_s.arg(value.toString());
     if (value.typeId() == QMetaType::Bool)
-        return value.toBool() ? tr("yes") : tr("no");
+        return value.toBool() ? Texts::tr("yes") : Texts::tr("no");
     return value.toString();
 }
 
@@ -167,36 +166,42 @@ QString nameOf(What what)
 {
     switch (what) {
     case What::Entity:
-        return tr("Entity");
+        return Texts::tr("Entity");
     case What::Variable:
-        return tr("Variable");
+        return Texts::tr("Variable");
     case What::Layout:
-        return tr("Layout");
+        return Texts::tr("Layout");
     case What::Range:
-        return tr("Range");
+        return Texts::tr("Range");
     case What::ValueLabel:
-        return tr("Value label");
+        return Texts::tr("Value label");
     }
     return {};
 }
 } // namespace
+
+QString DictionaryChange::propertyText() const
+{
+    return Texts::tr(property.toLatin1().constData());
+}
 
 QString DictionaryChange::text() const
 {
     const QString subject = u"%1 %2"_s.arg(nameOf(what), path);
     switch (kind) {
     case Kind::Added:
-        return tr("%1 added").arg(subject);
+        return Texts::tr("%1 added").arg(subject);
     case Kind::Removed:
-        return tr("%1 removed").arg(subject);
+        return Texts::tr("%1 removed").arg(subject);
     case Kind::Moved:
         return before.typeId() == QMetaType::Int
-            ? tr("%1 moved from position %2 to %3").arg(subject, before.toString(), after.toString())
-            : tr("%1 moved to %2").arg(subject, after.toString());
+            ? Texts::tr("%1 moved from position %2 to %3").arg(subject, before.toString(), after.toString())
+            : Texts::tr("%1 moved to %2").arg(subject, after.toString());
     case Kind::Renamed:
-        return tr("%1 renamed to %2").arg(subject, shown(after));
+        return Texts::tr("%1 renamed to %2").arg(subject, shown(after));
     case Kind::Changed:
-        return tr("%1: %2 changed from %3 to %4").arg(subject, property, shown(before), shown(after));
+        return Texts::tr("%1: %2 changed from %3 to %4")
+            .arg(subject, propertyText(), shown(before), shown(after));
     }
     return {};
 }
@@ -212,5 +217,5 @@ QStringList DictionaryDifference::text() const
     QStringList lines;
     std::transform(list.cbegin(), list.cend(), std::back_inserter(lines),
                    [](const DictionaryChange &change) { return change.text(); });
-    return lines.isEmpty() ? QStringList{tr("No differences.")} : lines;
+    return lines.isEmpty() ? QStringList{Texts::tr("No differences.")} : lines;
 }

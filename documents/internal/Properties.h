@@ -17,11 +17,9 @@
 /// equality and difference share. Lists and parts are not in it; they are told by their objects.
 namespace Properties
 {
-using namespace Qt::Literals::StringLiterals;
-
 template <typename Object>
 struct Property {
-    QLatin1StringView name;
+    QLatin1StringView name; ///< English; DictionaryChange::propertyText() translates it.
     QVariant (*get)(const Object &);
     void (*set)(Object &, const QVariant &);
     bool (*same)(const Object &, const Object &);
@@ -42,10 +40,10 @@ bool sameValue(const Value &left, const Value &right)
 }
 
 template <auto getter, auto setter, typename Object = decltype(classOf(getter))>
-consteval Property<Object> property(QLatin1StringView name)
+consteval Property<Object> property(const char *name)
 {
     using Value = std::remove_cvref_t<decltype((std::declval<const Object &>().*getter)())>;
-    return {.name = name,
+    return {.name = QLatin1StringView(name),
             .get = [](const Object &object) { return QVariant::fromValue<Value>((object.*getter)()); },
             .set = [](Object &object, const QVariant &value) { (object.*setter)(value.value<Value>()); },
             .same = [](const Object &left,
@@ -54,55 +52,83 @@ consteval Property<Object> property(QLatin1StringView name)
 }
 
 inline constexpr Property<TDcEntity> entityProperties[] = {
-    property<&TDcEntity::getName, &TDcEntity::setName>("name"_L1),
-    property<&TDcEntity::getLabel, &TDcEntity::setLabel>("label"_L1),
-    property<&TDcEntity::getAlias, &TDcEntity::setAlias>("alias"_L1),
-    property<&TDcEntity::getRefCode, &TDcEntity::setRefCode>("code variable"_L1),
-    property<&TDcEntity::getRefLabel, &TDcEntity::setRefLabel>("label variable"_L1),
-    property<&TDcEntity::getWeightVariable, &TDcEntity::setWeightVariable>("weight variable"_L1),
-    property<&TDcEntity::getDocumentationEntity, &TDcEntity::setDocumentationEntity>("documentation"_L1),
-    property<&TDcEntity::getLevel, &TDcEntity::setLevel>("level"_L1),
-    property<&TDcEntity::getIsvirtual, &TDcEntity::setIsvirtual>("virtual"_L1),
-    property<&TDcEntity::getSelectable, &TDcEntity::setSelectable>("selectable"_L1),
-    property<&TDcEntity::getCheckDelete, &TDcEntity::setCheckDelete>("marked for deletion"_L1),
+    property<&TDcEntity::getName, &TDcEntity::setName>(QT_TRANSLATE_NOOP("DictionaryDifference", "name")),
+    property<&TDcEntity::getLabel, &TDcEntity::setLabel>(QT_TRANSLATE_NOOP("DictionaryDifference", "label")),
+    property<&TDcEntity::getAlias, &TDcEntity::setAlias>(QT_TRANSLATE_NOOP("DictionaryDifference", "alias")),
+    property<&TDcEntity::getRefCode, &TDcEntity::setRefCode>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "code variable")),
+    property<&TDcEntity::getRefLabel, &TDcEntity::setRefLabel>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "label variable")),
+    property<&TDcEntity::getWeightVariable, &TDcEntity::setWeightVariable>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "weight variable")),
+    property<&TDcEntity::getDocumentationEntity, &TDcEntity::setDocumentationEntity>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "documentation")),
+    property<&TDcEntity::getLevel, &TDcEntity::setLevel>(QT_TRANSLATE_NOOP("DictionaryDifference", "level")),
+    property<&TDcEntity::getIsvirtual, &TDcEntity::setIsvirtual>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "virtual")),
+    property<&TDcEntity::getSelectable, &TDcEntity::setSelectable>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "selectable")),
+    property<&TDcEntity::getCheckDelete, &TDcEntity::setCheckDelete>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "marked for deletion")),
 };
 
 inline constexpr Property<TDcVariable> variableProperties[] = {
-    property<&TDcVariable::getName, &TDcVariable::setName>("name"_L1),
-    property<&TDcVariable::getLabel, &TDcVariable::setLabel>("label"_L1),
-    property<&TDcVariable::getAlias, &TDcVariable::setAlias>("alias"_L1),
-    property<&TDcVariable::getGroup, &TDcVariable::setGroup>("group"_L1),
-    property<&TDcVariable::getVarType, &TDcVariable::setVarType>("type"_L1),
-    property<&TDcVariable::getDocumentation, &TDcVariable::setDocumentation>("documentation"_L1),
-    property<&TDcVariable::getFileName, &TDcVariable::setFileName>("file name"_L1),
-    property<&TDcVariable::getSize, &TDcVariable::setSize>("size"_L1),
-    property<&TDcVariable::getDecimals, &TDcVariable::setDecimals>("decimals"_L1),
-    property<&TDcVariable::getFieldSize, &TDcVariable::setFieldSize>("field size"_L1),
-    property<&TDcVariable::getFieldRelativePosition, &TDcVariable::setFieldRelativePosition>("position"_L1),
-    property<&TDcVariable::getMissing, &TDcVariable::setMissing>("missing code"_L1),
-    property<&TDcVariable::getNotappl, &TDcVariable::setNotappl>("not-applicable code"_L1),
-    property<&TDcVariable::getTag, &TDcVariable::setTag>("tag"_L1),
-    property<&TDcVariable::getChecked, &TDcVariable::setChecked>("checked"_L1),
-    property<&TDcVariable::getLevel, &TDcVariable::setLevel>("level"_L1),
-    property<&TDcVariable::getLocal, &TDcVariable::setLocal>("local"_L1),
+    property<&TDcVariable::getName, &TDcVariable::setName>(QT_TRANSLATE_NOOP("DictionaryDifference", "name")),
+    property<&TDcVariable::getLabel, &TDcVariable::setLabel>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "label")),
+    property<&TDcVariable::getAlias, &TDcVariable::setAlias>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "alias")),
+    property<&TDcVariable::getGroup, &TDcVariable::setGroup>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "group")),
+    property<&TDcVariable::getVarType, &TDcVariable::setVarType>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "type")),
+    property<&TDcVariable::getDocumentation, &TDcVariable::setDocumentation>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "documentation")),
+    property<&TDcVariable::getFileName, &TDcVariable::setFileName>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "file name")),
+    property<&TDcVariable::getSize, &TDcVariable::setSize>(QT_TRANSLATE_NOOP("DictionaryDifference", "size")),
+    property<&TDcVariable::getDecimals, &TDcVariable::setDecimals>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "decimals")),
+    property<&TDcVariable::getFieldSize, &TDcVariable::setFieldSize>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "field size")),
+    property<&TDcVariable::getFieldRelativePosition, &TDcVariable::setFieldRelativePosition>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "position")),
+    property<&TDcVariable::getMissing, &TDcVariable::setMissing>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "missing code")),
+    property<&TDcVariable::getNotappl, &TDcVariable::setNotappl>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "not-applicable code")),
+    property<&TDcVariable::getTag, &TDcVariable::setTag>(QT_TRANSLATE_NOOP("DictionaryDifference", "tag")),
+    property<&TDcVariable::getChecked, &TDcVariable::setChecked>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "checked")),
+    property<&TDcVariable::getLevel, &TDcVariable::setLevel>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "level")),
+    property<&TDcVariable::getLocal, &TDcVariable::setLocal>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "local")),
 };
 
 inline constexpr Property<MetadataVariables> layoutProperties[] = {
-    property<&MetadataVariables::getRecord, &MetadataVariables::setRecord>("record"_L1),
-    property<&MetadataVariables::getField, &MetadataVariables::setField>("field"_L1),
-    property<&MetadataVariables::getStart, &MetadataVariables::setStart>("start"_L1),
-    property<&MetadataVariables::getLength, &MetadataVariables::setLength>("length"_L1),
-    property<&MetadataVariables::getLookup, &MetadataVariables::setLookup>("lookup"_L1),
+    property<&MetadataVariables::getRecord, &MetadataVariables::setRecord>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "record")),
+    property<&MetadataVariables::getField, &MetadataVariables::setField>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "field")),
+    property<&MetadataVariables::getStart, &MetadataVariables::setStart>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "start")),
+    property<&MetadataVariables::getLength, &MetadataVariables::setLength>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "length")),
+    property<&MetadataVariables::getLookup, &MetadataVariables::setLookup>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "lookup")),
 };
 
 inline constexpr Property<Range> rangeProperties[] = {
-    property<&Range::getRangeMin, &Range::setRangeMin>("minimum"_L1),
-    property<&Range::getRangeMax, &Range::setRangeMax>("maximum"_L1),
+    property<&Range::getRangeMin, &Range::setRangeMin>(QT_TRANSLATE_NOOP("DictionaryDifference", "minimum")),
+    property<&Range::getRangeMax, &Range::setRangeMax>(QT_TRANSLATE_NOOP("DictionaryDifference", "maximum")),
 };
 
 inline constexpr Property<ValueLabelElement> valueLabelProperties[] = {
-    property<&ValueLabelElement::getValue, &ValueLabelElement::setValue>("code"_L1),
-    property<&ValueLabelElement::getLabel, &ValueLabelElement::setLabel>("label"_L1),
+    property<&ValueLabelElement::getValue, &ValueLabelElement::setValue>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "code")),
+    property<&ValueLabelElement::getLabel, &ValueLabelElement::setLabel>(
+        QT_TRANSLATE_NOOP("DictionaryDifference", "label")),
 };
 
 // The table of an object's class.

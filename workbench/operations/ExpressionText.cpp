@@ -50,12 +50,12 @@ QString ExpressionText::reference(const TDcEntity &entity, const TDcVariable &va
 
 QString ExpressionText::reference(const TDcVariable &variable, const ValueLabelElement &category)
 {
-    const QString code = category.getValue().trimmed();
+    QString code = category.getValue().trimmed();
     // Documents and the program spell type words in different letter case.
     const bool text = variable.getVarType().compare(Constants::typeString, Qt::CaseInsensitive) == 0;
     if (!text && isNumber(code))
         return code;
-    return u'"' + QString(code).replace(u'"', u"\"\""_s) + u'"';
+    return u'"' + code.replace(u'"', u"\"\""_s) + u'"';
 }
 
 QString ExpressionText::spaced(const QString &text, qsizetype position, const QString &piece)

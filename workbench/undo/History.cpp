@@ -97,7 +97,7 @@ QString History::describe(const QList<DictionaryChange> &changes)
     case DictionaryChange::Kind::Renamed:
         return tr("rename of %1").arg(name);
     case DictionaryChange::Kind::Changed:
-        return tr("%1 of %2", "a property and what has it").arg(change.property, name);
+        return tr("%1 of %2", "a property and what has it").arg(change.propertyText(), name);
     default:
         return tr("change of %1").arg(name);
     }

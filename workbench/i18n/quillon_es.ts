@@ -1,0 +1,2864 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Actions</name>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nuevo</translation>
+    </message>
+    <message>
+        <source>Start an empty dictionary</source>
+        <translation>Empezar un diccionario vacío</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>Open a dictionary file</source>
+        <translation>Abrir un archivo de diccionario</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Save the dictionary</source>
+        <translation>Guardar el diccionario</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar &amp;como…</translation>
+    </message>
+    <message>
+        <source>Save the dictionary under another name</source>
+        <translation>Guardar el diccionario con otro nombre</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>Re&amp;vertir</translation>
+    </message>
+    <message>
+        <source>Go back to the dictionary as it was saved</source>
+        <translation>Volver al diccionario tal como se guardó</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Leave the workbench</source>
+        <translation>Salir de Quillon Workbench</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Filter Variables</source>
+        <translation>&amp;Filtrar variables</translation>
+    </message>
+    <message>
+        <source>Type into the filter of the variable table</source>
+        <translation>Escribir en el filtro de la tabla de variables</translation>
+    </message>
+    <message>
+        <source>&amp;Add Entity</source>
+        <translation>&amp;Añadir entidad</translation>
+    </message>
+    <message>
+        <source>Add an entity below the current one</source>
+        <translation>Añadir una entidad debajo de la actual</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate Entity</source>
+        <translation>&amp;Duplicar entidad</translation>
+    </message>
+    <message>
+        <source>Add a copy of the entity with everything below it</source>
+        <translation>Añadir una copia de la entidad con todo lo que contiene</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Entity</source>
+        <translation>Cambiar &amp;nombre de la entidad</translation>
+    </message>
+    <message>
+        <source>Edit the entity&apos;s name</source>
+        <translation>Editar el nombre de la entidad</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Entity</source>
+        <translation>&amp;Eliminar entidad</translation>
+    </message>
+    <message>
+        <source>Remove the entity with everything below it</source>
+        <translation>Eliminar la entidad con todo lo que contiene</translation>
+    </message>
+    <message>
+        <source>Move Entity &amp;Up</source>
+        <translation>&amp;Subir entidad</translation>
+    </message>
+    <message>
+        <source>Move the entity before the one above it</source>
+        <translation>Mover la entidad delante de la anterior</translation>
+    </message>
+    <message>
+        <source>Move Entity Do&amp;wn</source>
+        <translation>&amp;Bajar entidad</translation>
+    </message>
+    <message>
+        <source>Move the entity after the one below it</source>
+        <translation>Mover la entidad detrás de la siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Add Variable</source>
+        <translation>&amp;Añadir variable</translation>
+    </message>
+    <message>
+        <source>Add a variable to the entity</source>
+        <translation>Añadir una variable a la entidad</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate Variables</source>
+        <translation>&amp;Duplicar variables</translation>
+    </message>
+    <message>
+        <source>Add copies of the selected variables</source>
+        <translation>Añadir copias de las variables seleccionadas</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Variables</source>
+        <translation>&amp;Eliminar variables</translation>
+    </message>
+    <message>
+        <source>Remove the selected variables</source>
+        <translation>Eliminar las variables seleccionadas</translation>
+    </message>
+    <message>
+        <source>Move Variables &amp;Up</source>
+        <translation>&amp;Subir variables</translation>
+    </message>
+    <message>
+        <source>Move the selected variables up in the entity&apos;s order</source>
+        <translation>Subir las variables seleccionadas en el orden de la entidad</translation>
+    </message>
+    <message>
+        <source>Move Variables Do&amp;wn</source>
+        <translation>&amp;Bajar variables</translation>
+    </message>
+    <message>
+        <source>Move the selected variables down in the entity&apos;s order</source>
+        <translation>Bajar las variables seleccionadas en el orden de la entidad</translation>
+    </message>
+    <message>
+        <source>Use as Reference &amp;Code</source>
+        <translation>Usar como &amp;código de referencia</translation>
+    </message>
+    <message>
+        <source>Make the variable the entity&apos;s reference code, or stop it</source>
+        <translation>Hacer de la variable el código de referencia de la entidad, o dejar de usarla así</translation>
+    </message>
+    <message>
+        <source>Use as Reference &amp;Label</source>
+        <translation>Usar como e&amp;tiqueta de referencia</translation>
+    </message>
+    <message>
+        <source>Make the variable the entity&apos;s reference label, or stop it</source>
+        <translation>Hacer de la variable la etiqueta de referencia de la entidad, o dejar de usarla así</translation>
+    </message>
+    <message>
+        <source>Use as &amp;Weight</source>
+        <translation>Usar como &amp;ponderación</translation>
+    </message>
+    <message>
+        <source>Make the variable the entity&apos;s weight, or stop it</source>
+        <translation>Hacer de la variable la ponderación de la entidad, o dejar de usarla así</translation>
+    </message>
+    <message>
+        <source>Report Duplicated &amp;Names</source>
+        <translation>Informar de &amp;nombres duplicados</translation>
+    </message>
+    <message>
+        <source>List the variables of the entity that share a name</source>
+        <translation>Listar las variables de la entidad que comparten nombre</translation>
+    </message>
+    <message>
+        <source>Add Value &amp;Label</source>
+        <translation>Añadir &amp;etiqueta de valor</translation>
+    </message>
+    <message>
+        <source>Add a value label to the variable</source>
+        <translation>Añadir una etiqueta de valor a la variable</translation>
+    </message>
+    <message>
+        <source>Remove Value Labels</source>
+        <translation>Eliminar etiquetas de valor</translation>
+    </message>
+    <message>
+        <source>Remove the selected value labels</source>
+        <translation>Eliminar las etiquetas de valor seleccionadas</translation>
+    </message>
+    <message>
+        <source>Move Value Labels Up</source>
+        <translation>Subir etiquetas de valor</translation>
+    </message>
+    <message>
+        <source>Move the selected value labels up</source>
+        <translation>Subir las etiquetas de valor seleccionadas</translation>
+    </message>
+    <message>
+        <source>Move Value Labels Down</source>
+        <translation>Bajar etiquetas de valor</translation>
+    </message>
+    <message>
+        <source>Move the selected value labels down</source>
+        <translation>Bajar las etiquetas de valor seleccionadas</translation>
+    </message>
+    <message>
+        <source>Add &amp;Range</source>
+        <translation>Añadir &amp;rango</translation>
+    </message>
+    <message>
+        <source>Add a range of valid values to the variable</source>
+        <translation>Añadir a la variable un rango de valores válidos</translation>
+    </message>
+    <message>
+        <source>Remove Ranges</source>
+        <translation>Eliminar rangos</translation>
+    </message>
+    <message>
+        <source>Remove the selected ranges</source>
+        <translation>Eliminar los rangos seleccionados</translation>
+    </message>
+    <message>
+        <source>Move Ranges Up</source>
+        <translation>Subir rangos</translation>
+    </message>
+    <message>
+        <source>Move the selected ranges up</source>
+        <translation>Subir los rangos seleccionados</translation>
+    </message>
+    <message>
+        <source>Move Ranges Down</source>
+        <translation>Bajar rangos</translation>
+    </message>
+    <message>
+        <source>Move the selected ranges down</source>
+        <translation>Bajar los rangos seleccionados</translation>
+    </message>
+    <message>
+        <source>Open &amp;Dataset…</source>
+        <translation>Abrir conjunto de &amp;datos…</translation>
+    </message>
+    <message>
+        <source>List the fields of a data file</source>
+        <translation>Listar los campos de un archivo de datos</translation>
+    </message>
+    <message>
+        <source>Open &amp;CSV File…</source>
+        <translation>Abrir archivo &amp;CSV…</translation>
+    </message>
+    <message>
+        <source>List the fields of a CSV file</source>
+        <translation>Listar los campos de un archivo CSV</translation>
+    </message>
+    <message>
+        <source>Open &amp;Lookups…</source>
+        <translation>Abrir tablas de con&amp;sulta…</translation>
+    </message>
+    <message>
+        <source>List the lookup tables of a CSV file</source>
+        <translation>Listar las tablas de consulta de un archivo CSV</translation>
+    </message>
+    <message>
+        <source>Add Selected Fields to &amp;Entity</source>
+        <translation>Añadir los campos seleccionados a la &amp;entidad</translation>
+    </message>
+    <message>
+        <source>Make a variable of each selected field, as dragging them onto the table does</source>
+        <translation>Hacer una variable de cada campo seleccionado, como al arrastrarlos a la tabla</translation>
+    </message>
+    <message>
+        <source>&amp;Check Now</source>
+        <translation>&amp;Comprobar ahora</translation>
+    </message>
+    <message>
+        <source>Look for what is wrong in the dictionary</source>
+        <translation>Buscar lo que está mal en el diccionario</translation>
+    </message>
+    <message>
+        <source>&amp;Next Problem</source>
+        <translation>Problema &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Go to the place of the next problem</source>
+        <translation>Ir al lugar del problema siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Problem</source>
+        <translation>Problema &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Go to the place of the problem before</source>
+        <translation>Ir al lugar del problema anterior</translation>
+    </message>
+    <message>
+        <source>Build &amp;Expression…</source>
+        <translation>Crear &amp;expresión…</translation>
+    </message>
+    <message>
+        <source>Put an expression together from entities, variables and categories</source>
+        <translation>Componer una expresión con entidades, variables y categorías</translation>
+    </message>
+    <message>
+        <source>Select &amp;Areas…</source>
+        <translation>Seleccionar á&amp;reas…</translation>
+    </message>
+    <message>
+        <source>Select area units of a file</source>
+        <translation>Seleccionar unidades de área de un archivo</translation>
+    </message>
+    <message>
+        <source>&amp;About Quillon Workbench</source>
+        <translation>&amp;Acerca de Quillon Workbench</translation>
+    </message>
+    <message>
+        <source>Show version and licences</source>
+        <translation>Mostrar la versión y las licencias</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>E&amp;ntity</source>
+        <translation>E&amp;ntidad</translation>
+    </message>
+    <message>
+        <source>&amp;Variable</source>
+        <translation>&amp;Variable</translation>
+    </message>
+    <message>
+        <source>Va&amp;lues</source>
+        <translation>Va&amp;lores</translation>
+    </message>
+    <message>
+        <source>&amp;Sources</source>
+        <translation>&amp;Fuentes</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Herramientas</translation>
+    </message>
+    <message>
+        <source>Vie&amp;w</source>
+        <translation>Ve&amp;r</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Main Tool Bar</source>
+        <translation>Barra de herramientas principal</translation>
+    </message>
+</context>
+<context>
+    <name>AreaSelectionDialog</name>
+    <message>
+        <source>Select Areas</source>
+        <translation>Seleccionar áreas</translation>
+    </message>
+    <message>
+        <source>Areas that have no others below them are counted</source>
+        <translation>Se cuentan las áreas que no contienen otras</translation>
+    </message>
+    <message>
+        <source>&amp;Open File…</source>
+        <translation>&amp;Abrir archivo…</translation>
+    </message>
+    <message>
+        <source>Filter areas by code or name</source>
+        <translation>Filtrar áreas por código o nombre</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filtro:</translation>
+    </message>
+    <message>
+        <source>Show co&amp;des</source>
+        <translation>Mostrar có&amp;digos</translation>
+    </message>
+    <message>
+        <source>Show the code of an area in place of its first text</source>
+        <translation>Mostrar el código de un área en lugar de su primer texto</translation>
+    </message>
+    <message>
+        <source>Show &amp;names</source>
+        <translation>Mostrar &amp;nombres</translation>
+    </message>
+    <message>
+        <source>Show the name of an area before its texts</source>
+        <translation>Mostrar el nombre de un área delante de sus textos</translation>
+    </message>
+    <message>
+        <source>Open a CSV file with the columns “code”, “parent” and “name” to select areas of it.</source>
+        <translation>Abra un archivo CSV con las columnas «code», «parent» y «name» para seleccionar áreas de él.</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Áreas</translation>
+    </message>
+    <message>
+        <source>&amp;Expand All</source>
+        <translation>&amp;Expandir todo</translation>
+    </message>
+    <message>
+        <source>Co&amp;llapse All</source>
+        <translation>&amp;Contraer todo</translation>
+    </message>
+    <message>
+        <source>Selec&amp;t None</source>
+        <translation>&amp;Quitar la selección</translation>
+    </message>
+    <message>
+        <source>Co&amp;py Codes</source>
+        <translation>Co&amp;piar códigos</translation>
+    </message>
+    <message>
+        <source>Copy the codes of the selected areas; an area stands for all below it</source>
+        <translation>Copiar los códigos de las áreas seleccionadas; un área representa a todas las que contiene</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV…</source>
+        <translation>&amp;Guardar como CSV…</translation>
+    </message>
+    <message>
+        <source>Write the selected areas to a file; an area stands for all below it</source>
+        <translation>Escribir las áreas seleccionadas en un archivo; un área representa a todas las que contiene</translation>
+    </message>
+    <message>
+        <source>Areas selected: %L1 of %L2</source>
+        <translation>Áreas seleccionadas: %L1 de %L2</translation>
+    </message>
+    <message>
+        <source>Reading the file…</source>
+        <translation>Leyendo el archivo…</translation>
+    </message>
+    <message>
+        <source>All areas</source>
+        <translation>Todas las áreas</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written.</source>
+        <translation>No se puede escribir «%1».</translation>
+    </message>
+    <message>
+        <source>Open Area Units</source>
+        <translation>Abrir unidades de área</translation>
+    </message>
+    <message>
+        <source>Save Selected Areas</source>
+        <translation>Guardar las áreas seleccionadas</translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv)</source>
+        <translation>Archivos CSV (*.csv)</translation>
+    </message>
+</context>
+<context>
+    <name>AreaUnitFile</name>
+    <message>
+        <source>No column is called &quot;code&quot;.</source>
+        <translation>Ninguna columna se llama «code».</translation>
+    </message>
+    <message>
+        <source>The code is empty.</source>
+        <translation>El código está vacío.</translation>
+    </message>
+    <message>
+        <source>The code &quot;%1&quot; stands in line %2 too.</source>
+        <translation>El código «%1» está también en la línea %2.</translation>
+    </message>
+    <message>
+        <source>The parent &quot;%1&quot; of &quot;%2&quot; is not in the file.</source>
+        <translation>La unidad superior «%1» de «%2» no está en el archivo.</translation>
+    </message>
+    <message>
+        <source>The unit lies below itself: %1.</source>
+        <translation>La unidad está debajo de sí misma: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>CheckCommands</name>
+    <message>
+        <source>Looking for problems…</source>
+        <translation>Buscando problemas…</translation>
+    </message>
+</context>
+<context>
+    <name>Codebook</name>
+    <message>
+        <source>Codebook</source>
+        <translation>Libro de códigos</translation>
+    </message>
+    <message>
+        <source>Entities: %1. Variables: %2.</source>
+        <translation>Entidades: %1. Variables: %2.</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Belongs to</source>
+        <translation>Pertenece a</translation>
+    </message>
+    <message>
+        <source>Record code</source>
+        <translation>Código del registro</translation>
+    </message>
+    <message>
+        <source>Record label</source>
+        <translation>Etiqueta del registro</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Ponderación</translation>
+    </message>
+    <message>
+        <source>Selectable</source>
+        <translation>Seleccionable</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>Virtual</source>
+        <translation>Virtual</translation>
+    </message>
+    <message>
+        <source>Whole number</source>
+        <translation>Número entero</translation>
+    </message>
+    <message>
+        <source>Decimal number</source>
+        <translation>Número decimal</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Yes or no</source>
+        <translation>Sí o no</translation>
+    </message>
+    <message>
+        <source>Lookup</source>
+        <translation>Tabla de consulta</translation>
+    </message>
+    <message>
+        <source>record code</source>
+        <translation>código del registro</translation>
+    </message>
+    <message>
+        <source>record label</source>
+        <translation>etiqueta del registro</translation>
+    </message>
+    <message>
+        <source>weight</source>
+        <translation>ponderación</translation>
+    </message>
+    <message>
+        <source>from a lookup table</source>
+        <translation>de una tabla de consulta</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>Decimals</source>
+        <translation>Decimales</translation>
+    </message>
+    <message>
+        <source>Valid range</source>
+        <translation>Rango válido</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Perdido</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>No aplicable</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>%1 of record %2</source>
+        <translation>%1 del registro %2</translation>
+    </message>
+    <message>
+        <source>Source field</source>
+        <translation>Campo de origen</translation>
+    </message>
+    <message>
+        <source>Codebook: %1</source>
+        <translation>Libro de códigos: %1</translation>
+    </message>
+    <message>
+        <source>Skip to the content</source>
+        <translation>Saltar al contenido</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Search variables</source>
+        <translation>Buscar variables</translation>
+    </message>
+    <message>
+        <source>Variables found: %1</source>
+        <translation>Variables encontradas: %1</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categorías</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Variables: %1</source>
+        <translation>Variables: %1</translation>
+    </message>
+    <message>
+        <source>The document cannot be written.</source>
+        <translation>No se puede escribir el documento.</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Draw the window into &lt;file&gt; and quit.</source>
+        <translation>Dibujar la ventana en &lt;file&gt; y salir.</translation>
+    </message>
+    <message>
+        <source>Size of the window, for instance 1280x800.</source>
+        <translation>Tamaño de la ventana, por ejemplo 1280x800.</translation>
+    </message>
+    <message>
+        <source>light, dark or system.</source>
+        <translation>light (claro), dark (oscuro) o system.</translation>
+    </message>
+    <message>
+        <source>Language of the texts, for instance es.</source>
+        <translation>Idioma de los textos, por ejemplo es.</translation>
+    </message>
+    <message>
+        <source>Open the dictionary &lt;file&gt;.</source>
+        <translation>Abrir el diccionario &lt;file&gt;.</translation>
+    </message>
+    <message>
+        <source>Select an entity, or one of its variables.</source>
+        <translation>Seleccionar una entidad o una de sus variables.</translation>
+    </message>
+    <message>
+        <source>An editor for data dictionaries.</source>
+        <translation>Un editor de diccionarios de datos.</translation>
+    </message>
+    <message>
+        <source>The dictionary to open.</source>
+        <translation>El diccionario que se abrirá.</translation>
+    </message>
+    <message>
+        <source>One dictionary at a time, please.</source>
+        <translation>Un solo diccionario a la vez, por favor.</translation>
+    </message>
+    <message>
+        <source>The size is written as in 1280x800.</source>
+        <translation>El tamaño se escribe como en 1280x800.</translation>
+    </message>
+    <message>
+        <source>The theme is light, dark or system.</source>
+        <translation>El tema es light, dark o system.</translation>
+    </message>
+</context>
+<context>
+    <name>CsvDialect</name>
+    <message>
+        <source>The file is damaged: it ends inside a character.</source>
+        <translation>El archivo está dañado: termina en medio de un carácter.</translation>
+    </message>
+    <message>
+        <source>The encoding &quot;%1&quot; is not known.</source>
+        <translation>La codificación «%1» no se conoce.</translation>
+    </message>
+    <message>
+        <source>The character &quot;%1&quot; cannot separate cells.</source>
+        <translation>El carácter «%1» no puede separar celdas.</translation>
+    </message>
+</context>
+<context>
+    <name>CsvSource</name>
+    <message>
+        <source>column %1</source>
+        <translation>columna %1</translation>
+    </message>
+    <message>
+        <source>The column has no name and is called %1.</source>
+        <translation>La columna no tiene nombre y se llama %1.</translation>
+    </message>
+    <message>
+        <source>Column %1 is called %2 too.</source>
+        <translation>La columna %1 también se llama %2.</translation>
+    </message>
+</context>
+<context>
+    <name>CsvTable</name>
+    <message>
+        <source>A zero byte: this is no text file, or of another encoding.</source>
+        <translation>Un byte nulo: no es un archivo de texto o tiene otra codificación.</translation>
+    </message>
+    <message>
+        <source>The quotation marks that this row opens are never closed.</source>
+        <translation>Las comillas que abre esta fila no se cierran nunca.</translation>
+    </message>
+    <message>
+        <source>The file holds no rows.</source>
+        <translation>El archivo no contiene filas.</translation>
+    </message>
+    <message>
+        <source>A quotation mark stands where none may stand.</source>
+        <translation>Hay una comilla donde no puede haberla.</translation>
+    </message>
+    <message>
+        <source>%1 cells where the first row has %2.</source>
+        <translation>%1 celdas donde la primera fila tiene %2.</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>línea %1</translation>
+    </message>
+    <message>
+        <source>This is no regular file.</source>
+        <translation>No es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>The text is not valid in the encoding %1.</source>
+        <translation>El texto no es válido en la codificación %1.</translation>
+    </message>
+</context>
+<context>
+    <name>DataFile</name>
+    <message>
+        <source>This is no regular file.</source>
+        <translation>No es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>byte %1 of %2</source>
+        <translation>byte %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>DictionaryCheck</name>
+    <message>
+        <source>No problems found.</source>
+        <translation>No se encontraron problemas.</translation>
+    </message>
+    <message>
+        <source>Errors: %1, warnings: %2, notes: %3.</source>
+        <translation>Errores: %1, advertencias: %2, notas: %3.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>The entity %1 has this name too.</source>
+        <translation>La entidad %1 también tiene este nombre.</translation>
+    </message>
+    <message>
+        <source>Rename one of them.</source>
+        <translation>Cambie el nombre de una de ellas.</translation>
+    </message>
+    <message>
+        <source>The entity %1 has the alias &quot;%2&quot; too.</source>
+        <translation>La entidad %1 también tiene el alias «%2».</translation>
+    </message>
+    <message>
+        <source>Change one of the aliases.</source>
+        <translation>Cambie uno de los alias.</translation>
+    </message>
+    <message>
+        <source>The alias &quot;%1&quot; is the name of another entity.</source>
+        <translation>El alias «%1» es el nombre de otra entidad.</translation>
+    </message>
+    <message>
+        <source>Change the alias.</source>
+        <translation>Cambie el alias.</translation>
+    </message>
+    <message>
+        <source>The name of the entity is also the name of a group of variables.</source>
+        <translation>El nombre de la entidad es también el de un grupo de variables.</translation>
+    </message>
+    <message>
+        <source>Rename the entity or the group.</source>
+        <translation>Cambie el nombre de la entidad o del grupo.</translation>
+    </message>
+    <message>
+        <source>Some types are spelt as documents spell them (&quot;%1&quot;) and some as the program does (&quot;%2&quot;).</source>
+        <translation>Algunos tipos están escritos como en los documentos («%1») y otros como en el programa («%2»).</translation>
+    </message>
+    <message>
+        <source>Use one spelling: the layer compares types letter by letter.</source>
+        <translation>Use una sola grafía: los tipos se comparan letra por letra.</translation>
+    </message>
+    <message>
+        <source>The groups &quot;%1&quot; and &quot;%2&quot; differ in letter case or blanks only.</source>
+        <translation>Los grupos «%1» y «%2» solo difieren en mayúsculas o espacios.</translation>
+    </message>
+    <message>
+        <source>Give them the same name.</source>
+        <translation>Deles el mismo nombre.</translation>
+    </message>
+    <message>
+        <source>Two entities have the same name</source>
+        <translation>Dos entidades tienen el mismo nombre</translation>
+    </message>
+    <message>
+        <source>Two entities have the same alias</source>
+        <translation>Dos entidades tienen el mismo alias</translation>
+    </message>
+    <message>
+        <source>An entity&apos;s alias is the name of another entity</source>
+        <translation>El alias de una entidad es el nombre de otra</translation>
+    </message>
+    <message>
+        <source>An entity is called as a group of variables</source>
+        <translation>Una entidad se llama como un grupo de variables</translation>
+    </message>
+    <message>
+        <source>Types are spelt in two ways</source>
+        <translation>Los tipos están escritos de dos maneras</translation>
+    </message>
+    <message>
+        <source>Two groups differ in letter case or blanks only</source>
+        <translation>Dos grupos solo difieren en mayúsculas o espacios</translation>
+    </message>
+    <message>
+        <source>Another variable is called &quot;%1&quot; too.</source>
+        <translation>Otra variable también se llama «%1».</translation>
+    </message>
+    <message>
+        <source>The name is easily mistaken for &quot;%1&quot;.</source>
+        <translation>El nombre se confunde fácilmente con «%1».</translation>
+    </message>
+    <message>
+        <source>Choose names that differ more.</source>
+        <translation>Elija nombres que se distingan más.</translation>
+    </message>
+    <message>
+        <source>The variable &quot;%1&quot; has the alias &quot;%2&quot; too.</source>
+        <translation>La variable «%1» también tiene el alias «%2».</translation>
+    </message>
+    <message>
+        <source>The alias &quot;%1&quot; is the name of another variable.</source>
+        <translation>El alias «%1» es el nombre de otra variable.</translation>
+    </message>
+    <message>
+        <source>The variable is called as an entity is.</source>
+        <translation>La variable se llama como una entidad.</translation>
+    </message>
+    <message>
+        <source>Rename the variable.</source>
+        <translation>Cambie el nombre de la variable.</translation>
+    </message>
+    <message>
+        <source>The group &quot;%1&quot; is also the name or the alias of a variable.</source>
+        <translation>El grupo «%1» es también el nombre o el alias de una variable.</translation>
+    </message>
+    <message>
+        <source>Change the group.</source>
+        <translation>Cambie el grupo.</translation>
+    </message>
+    <message>
+        <source>The variable &quot;%1&quot; has the tag %2 too.</source>
+        <translation>La variable «%1» también tiene la marca %2.</translation>
+    </message>
+    <message>
+        <source>Give each variable a tag of its own.</source>
+        <translation>Dé a cada variable una marca propia.</translation>
+    </message>
+    <message>
+        <source>The positions %1 to %2 overlap those of &quot;%3&quot;, which end at %4.</source>
+        <translation>Las posiciones %1 a %2 se solapan con las de «%3», que terminan en %4.</translation>
+    </message>
+    <message>
+        <source>Correct the start or the length of one of them.</source>
+        <translation>Corrija el inicio o la longitud de una de ellas.</translation>
+    </message>
+    <message>
+        <source>Two variables of an entity have the same name</source>
+        <translation>Dos variables de una entidad tienen el mismo nombre</translation>
+    </message>
+    <message>
+        <source>Two variables of an entity have names that look alike</source>
+        <translation>Dos variables de una entidad tienen nombres parecidos</translation>
+    </message>
+    <message>
+        <source>Two variables of an entity have the same alias</source>
+        <translation>Dos variables de una entidad tienen el mismo alias</translation>
+    </message>
+    <message>
+        <source>A variable&apos;s alias is the name of another variable</source>
+        <translation>El alias de una variable es el nombre de otra</translation>
+    </message>
+    <message>
+        <source>A variable is called as an entity</source>
+        <translation>Una variable se llama como una entidad</translation>
+    </message>
+    <message>
+        <source>A group is called as a variable</source>
+        <translation>Un grupo se llama como una variable</translation>
+    </message>
+    <message>
+        <source>Two variables of an entity have the same tag</source>
+        <translation>Dos variables de una entidad tienen la misma marca</translation>
+    </message>
+    <message>
+        <source>Two variables lie on the same positions of a record</source>
+        <translation>Dos variables ocupan las mismas posiciones de un registro</translation>
+    </message>
+    <message>
+        <source>The entity has no name.</source>
+        <translation>La entidad no tiene nombre.</translation>
+    </message>
+    <message>
+        <source>Give it a name.</source>
+        <translation>Dele un nombre.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is not valid.</source>
+        <translation>El nombre «%1» no es válido.</translation>
+    </message>
+    <message>
+        <source>Use letters, digits and underscores only, and no digit at the start.</source>
+        <translation>Use solo letras, cifras y guiones bajos, y ninguna cifra al principio.</translation>
+    </message>
+    <message>
+        <source>The name has %1 characters.</source>
+        <translation>El nombre tiene %1 caracteres.</translation>
+    </message>
+    <message>
+        <source>Shorten it to %1.</source>
+        <translation>Acórtelo a %1.</translation>
+    </message>
+    <message>
+        <source>The name begins or ends with blanks.</source>
+        <translation>El nombre empieza o termina con espacios.</translation>
+    </message>
+    <message>
+        <source>Remove them.</source>
+        <translation>Elimínelos.</translation>
+    </message>
+    <message>
+        <source>The entity has no label.</source>
+        <translation>La entidad no tiene etiqueta.</translation>
+    </message>
+    <message>
+        <source>Say what one record of it stands for.</source>
+        <translation>Indique qué representa uno de sus registros.</translation>
+    </message>
+    <message>
+        <source>The entity has neither variables nor entities below it.</source>
+        <translation>La entidad no tiene variables ni entidades debajo.</translation>
+    </message>
+    <message>
+        <source>Add its variables or remove it.</source>
+        <translation>Añada sus variables o elimínela.</translation>
+    </message>
+    <message>
+        <source>The level is %1 and should be %2.</source>
+        <translation>El nivel es %1 y debería ser %2.</translation>
+    </message>
+    <message>
+        <source>Set the level to the depth in the tree: trees are shown by it.</source>
+        <translation>Ponga como nivel la profundidad en el árbol: los árboles se muestran según él.</translation>
+    </message>
+    <message>
+        <source>Perhaps &quot;%1&quot; is meant.</source>
+        <translation>Quizá se quiso decir «%1».</translation>
+    </message>
+    <message>
+        <source>Name a variable of this entity, or none.</source>
+        <translation>Indique una variable de esta entidad, o ninguna.</translation>
+    </message>
+    <message>
+        <source>The reference code variable &quot;%1&quot; does not exist in this entity.</source>
+        <translation>La variable «%1» del código de referencia no existe en esta entidad.</translation>
+    </message>
+    <message>
+        <source>The reference label variable &quot;%1&quot; does not exist in this entity.</source>
+        <translation>La variable «%1» de la etiqueta de referencia no existe en esta entidad.</translation>
+    </message>
+    <message>
+        <source>The weight variable &quot;%1&quot; does not exist in this entity.</source>
+        <translation>La variable de ponderación «%1» no existe en esta entidad.</translation>
+    </message>
+    <message>
+        <source>The weight variable holds text.</source>
+        <translation>La variable de ponderación contiene texto.</translation>
+    </message>
+    <message>
+        <source>Make it a number or choose another weight variable.</source>
+        <translation>Conviértala en número o elija otra variable de ponderación.</translation>
+    </message>
+    <message>
+        <source>The entity is selectable but has no reference code variable.</source>
+        <translation>La entidad es seleccionable pero no tiene variable de código de referencia.</translation>
+    </message>
+    <message>
+        <source>Choose a reference code variable or make the entity not selectable.</source>
+        <translation>Elija una variable de código de referencia o haga que la entidad no sea seleccionable.</translation>
+    </message>
+    <message>
+        <source>The entity is selectable but the one above it is not.</source>
+        <translation>La entidad es seleccionable, pero la superior no lo es.</translation>
+    </message>
+    <message>
+        <source>Make the entity above selectable too, or this one not.</source>
+        <translation>Haga también seleccionable la entidad superior, o no esta.</translation>
+    </message>
+    <message>
+        <source>An entity has no name</source>
+        <translation>Una entidad no tiene nombre</translation>
+    </message>
+    <message>
+        <source>An entity&apos;s name holds other characters than names may</source>
+        <translation>El nombre de una entidad contiene caracteres no permitidos</translation>
+    </message>
+    <message>
+        <source>An entity&apos;s name is too long</source>
+        <translation>El nombre de una entidad es demasiado largo</translation>
+    </message>
+    <message>
+        <source>An entity&apos;s name has blanks around it</source>
+        <translation>El nombre de una entidad tiene espacios alrededor</translation>
+    </message>
+    <message>
+        <source>An entity has no label</source>
+        <translation>Una entidad no tiene etiqueta</translation>
+    </message>
+    <message>
+        <source>An entity holds nothing</source>
+        <translation>Una entidad no contiene nada</translation>
+    </message>
+    <message>
+        <source>An entity&apos;s level is not its depth</source>
+        <translation>El nivel de una entidad no es su profundidad</translation>
+    </message>
+    <message>
+        <source>A reference code variable does not exist</source>
+        <translation>Una variable de código de referencia no existe</translation>
+    </message>
+    <message>
+        <source>A reference label variable does not exist</source>
+        <translation>Una variable de etiqueta de referencia no existe</translation>
+    </message>
+    <message>
+        <source>A weight variable does not exist</source>
+        <translation>Una variable de ponderación no existe</translation>
+    </message>
+    <message>
+        <source>A weight variable holds text</source>
+        <translation>Una variable de ponderación contiene texto</translation>
+    </message>
+    <message>
+        <source>A selectable entity has no reference code</source>
+        <translation>Una entidad seleccionable no tiene código de referencia</translation>
+    </message>
+    <message>
+        <source>A selectable entity lies below one that is not</source>
+        <translation>Una entidad seleccionable está debajo de una que no lo es</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>The range %1 is reversed: nothing lies in it.</source>
+        <translation>El rango %1 está invertido: no contiene nada.</translation>
+    </message>
+    <message>
+        <source>Exchange its bounds.</source>
+        <translation>Intercambie sus límites.</translation>
+    </message>
+    <message>
+        <source>The ranges %1 and %2 overlap.</source>
+        <translation>Los rangos %1 y %2 se solapan.</translation>
+    </message>
+    <message>
+        <source>Join them or correct a bound.</source>
+        <translation>Únalos o corrija un límite.</translation>
+    </message>
+    <message>
+        <source>The variable holds text but has a range.</source>
+        <translation>La variable contiene texto pero tiene un rango.</translation>
+    </message>
+    <message>
+        <source>Remove the range or change the type.</source>
+        <translation>Elimine el rango o cambie el tipo.</translation>
+    </message>
+    <message>
+        <source>The range %1 of a whole number has fractions.</source>
+        <translation>El rango %1 de un número entero tiene decimales.</translation>
+    </message>
+    <message>
+        <source>Round the bounds or make the variable a real number.</source>
+        <translation>Redondee los límites o haga de la variable un número real.</translation>
+    </message>
+    <message>
+        <source>The missing code %1 is a valid value.</source>
+        <translation>El código de valor perdido %1 es un valor válido.</translation>
+    </message>
+    <message>
+        <source>Choose a code outside the ranges.</source>
+        <translation>Elija un código fuera de los rangos.</translation>
+    </message>
+    <message>
+        <source>The not-applicable code %1 is a valid value.</source>
+        <translation>El código de no aplicable %1 es un valor válido.</translation>
+    </message>
+    <message>
+        <source>The missing and the not-applicable code are 0, which is a valid value.</source>
+        <translation>Los códigos de valor perdido y de no aplicable son 0, que es un valor válido.</translation>
+    </message>
+    <message>
+        <source>Choose codes outside the ranges.</source>
+        <translation>Elija códigos fuera de los rangos.</translation>
+    </message>
+    <message>
+        <source>Missing and not applicable have the same code, %1.</source>
+        <translation>Perdido y no aplicable tienen el mismo código, %1.</translation>
+    </message>
+    <message>
+        <source>Give them different codes.</source>
+        <translation>Deles códigos distintos.</translation>
+    </message>
+    <message>
+        <source>The category %1 &quot;%2&quot; lies outside the ranges.</source>
+        <translation>La categoría %1 «%2» está fuera de los rangos.</translation>
+    </message>
+    <message>
+        <source>Widen a range, or remove the category.</source>
+        <translation>Amplíe un rango o elimine la categoría.</translation>
+    </message>
+    <message>
+        <source>The code %1 stands for &quot;%2&quot; and for &quot;%3&quot;.</source>
+        <translation>El código %1 representa «%2» y «%3».</translation>
+    </message>
+    <message>
+        <source>Keep one of the two.</source>
+        <translation>Conserve uno de los dos.</translation>
+    </message>
+    <message>
+        <source>The code &quot;%1&quot; is no whole number.</source>
+        <translation>El código «%1» no es un número entero.</translation>
+    </message>
+    <message>
+        <source>The code &quot;%1&quot; is no number.</source>
+        <translation>El código «%1» no es un número.</translation>
+    </message>
+    <message>
+        <source>Correct the code: documents would keep a number in its place.</source>
+        <translation>Corrija el código: los documentos guardarían un número en su lugar.</translation>
+    </message>
+    <message>
+        <source>The category &quot;%1&quot; has no code.</source>
+        <translation>La categoría «%1» no tiene código.</translation>
+    </message>
+    <message>
+        <source>Give it a code or remove it.</source>
+        <translation>Dele un código o elimínela.</translation>
+    </message>
+    <message>
+        <source>The code %1 has no label.</source>
+        <translation>El código %1 no tiene etiqueta.</translation>
+    </message>
+    <message>
+        <source>Say what it stands for.</source>
+        <translation>Indique qué representa.</translation>
+    </message>
+    <message>
+        <source>The codes %1 and %2 have the same label, &quot;%3&quot;.</source>
+        <translation>Los códigos %1 y %2 tienen la misma etiqueta, «%3».</translation>
+    </message>
+    <message>
+        <source>Say how they differ.</source>
+        <translation>Indique en qué se diferencian.</translation>
+    </message>
+    <message>
+        <source>The code %1 has more than %2 characters.</source>
+        <translation>El código %1 tiene más de %2 caracteres.</translation>
+    </message>
+    <message>
+        <source>Shorten the code or widen the variable.</source>
+        <translation>Acorte el código o ensanche la variable.</translation>
+    </message>
+    <message>
+        <source>The range %1 does not fit into %2 positions.</source>
+        <translation>El rango %1 no cabe en %2 posiciones.</translation>
+    </message>
+    <message>
+        <source>Correct the range or the length.</source>
+        <translation>Corrija el rango o la longitud.</translation>
+    </message>
+    <message>
+        <source>A range&apos;s minimum is above its maximum</source>
+        <translation>El mínimo de un rango es mayor que su máximo</translation>
+    </message>
+    <message>
+        <source>Two ranges overlap</source>
+        <translation>Dos rangos se solapan</translation>
+    </message>
+    <message>
+        <source>A text has a range</source>
+        <translation>Un texto tiene un rango</translation>
+    </message>
+    <message>
+        <source>A whole number&apos;s range has fractions</source>
+        <translation>El rango de un número entero tiene decimales</translation>
+    </message>
+    <message>
+        <source>A range does not fit into the field</source>
+        <translation>Un rango no cabe en el campo</translation>
+    </message>
+    <message>
+        <source>A missing code is a valid value</source>
+        <translation>Un código de valor perdido es un valor válido</translation>
+    </message>
+    <message>
+        <source>A not-applicable code is a valid value</source>
+        <translation>Un código de no aplicable es un valor válido</translation>
+    </message>
+    <message>
+        <source>No missing codes are chosen and 0 is a valid value</source>
+        <translation>No se han elegido códigos de valor perdido y 0 es un valor válido</translation>
+    </message>
+    <message>
+        <source>Missing and not applicable have the same code</source>
+        <translation>Perdido y no aplicable tienen el mismo código</translation>
+    </message>
+    <message>
+        <source>A category lies outside the ranges</source>
+        <translation>Una categoría está fuera de los rangos</translation>
+    </message>
+    <message>
+        <source>Two categories have the same code</source>
+        <translation>Dos categorías tienen el mismo código</translation>
+    </message>
+    <message>
+        <source>A number&apos;s category has a code that is no such number</source>
+        <translation>La categoría de un número tiene un código que no es un número así</translation>
+    </message>
+    <message>
+        <source>A category has no code</source>
+        <translation>Una categoría no tiene código</translation>
+    </message>
+    <message>
+        <source>A code does not fit into the field</source>
+        <translation>Un código no cabe en el campo</translation>
+    </message>
+    <message>
+        <source>A code has no label</source>
+        <translation>Un código no tiene etiqueta</translation>
+    </message>
+    <message>
+        <source>Two codes have the same label</source>
+        <translation>Dos códigos tienen la misma etiqueta</translation>
+    </message>
+    <message>
+        <source>The variable has no name.</source>
+        <translation>La variable no tiene nombre.</translation>
+    </message>
+    <message>
+        <source>Use letters, digits and underscores only.</source>
+        <translation>Use solo letras, cifras y guiones bajos.</translation>
+    </message>
+    <message>
+        <source>The name begins with a digit.</source>
+        <translation>El nombre empieza con una cifra.</translation>
+    </message>
+    <message>
+        <source>Begin it with a letter: statistics packages refuse it otherwise.</source>
+        <translation>Empiécelo con una letra: de lo contrario los paquetes estadísticos lo rechazan.</translation>
+    </message>
+    <message>
+        <source>The variable has no label.</source>
+        <translation>La variable no tiene etiqueta.</translation>
+    </message>
+    <message>
+        <source>Say what it measures.</source>
+        <translation>Indique qué mide.</translation>
+    </message>
+    <message>
+        <source>The variable has no type; documents call it &quot;integer&quot;.</source>
+        <translation>La variable no tiene tipo; los documentos lo llaman «integer».</translation>
+    </message>
+    <message>
+        <source>Choose its type.</source>
+        <translation>Elija su tipo.</translation>
+    </message>
+    <message>
+        <source>The type &quot;%1&quot; is not known.</source>
+        <translation>El tipo «%1» no se conoce.</translation>
+    </message>
+    <message>
+        <source>Use &quot;integer&quot;, &quot;real&quot; or &quot;string&quot;.</source>
+        <translation>Use «integer», «real» o «string».</translation>
+    </message>
+    <message>
+        <source>Write it &quot;%1&quot;: types are compared letter by letter.</source>
+        <translation>Escríbalo «%1»: los tipos se comparan letra por letra.</translation>
+    </message>
+    <message>
+        <source>The text has no size; documents give it the size 1.</source>
+        <translation>El texto no tiene tamaño; los documentos le dan el tamaño 1.</translation>
+    </message>
+    <message>
+        <source>Set how many characters it may have.</source>
+        <translation>Indique cuántos caracteres puede tener.</translation>
+    </message>
+    <message>
+        <source>The type has no decimals, but %1 are given.</source>
+        <translation>El tipo no tiene decimales, pero se indican %1.</translation>
+    </message>
+    <message>
+        <source>Make it a real number or set the decimals to 0.</source>
+        <translation>Hágala un número real o ponga los decimales a 0.</translation>
+    </message>
+    <message>
+        <source>%1 decimals do not fit into %2 positions.</source>
+        <translation>%1 decimales no caben en %2 posiciones.</translation>
+    </message>
+    <message>
+        <source>Correct the decimals or the length.</source>
+        <translation>Corrija los decimales o la longitud.</translation>
+    </message>
+    <message>
+        <source>The tag %1 is not between 0 and %2.</source>
+        <translation>La marca %1 no está entre 0 y %2.</translation>
+    </message>
+    <message>
+        <source>Choose another tag: it would be changed by the next edit.</source>
+        <translation>Elija otra marca: la siguiente edición la cambiaría.</translation>
+    </message>
+    <message>
+        <source>The variable is a lookup, but its entity is not selectable.</source>
+        <translation>La variable es una tabla de consulta, pero su entidad no es seleccionable.</translation>
+    </message>
+    <message>
+        <source>Make the entity selectable: lookups are taken by selectable entities only.</source>
+        <translation>Haga seleccionable la entidad: solo las entidades seleccionables admiten tablas de consulta.</translation>
+    </message>
+    <message>
+        <source>The record has a start position for it but no length.</source>
+        <translation>El registro tiene para ella una posición inicial pero no una longitud.</translation>
+    </message>
+    <message>
+        <source>Set the length.</source>
+        <translation>Indique la longitud.</translation>
+    </message>
+    <message>
+        <source>A variable has no name</source>
+        <translation>Una variable no tiene nombre</translation>
+    </message>
+    <message>
+        <source>A variable&apos;s name holds other characters than names may</source>
+        <translation>El nombre de una variable contiene caracteres no permitidos</translation>
+    </message>
+    <message>
+        <source>A variable&apos;s name begins with a digit</source>
+        <translation>El nombre de una variable empieza con una cifra</translation>
+    </message>
+    <message>
+        <source>A variable&apos;s name has blanks around it</source>
+        <translation>El nombre de una variable tiene espacios alrededor</translation>
+    </message>
+    <message>
+        <source>A variable has no label</source>
+        <translation>Una variable no tiene etiqueta</translation>
+    </message>
+    <message>
+        <source>A variable has no type</source>
+        <translation>Una variable no tiene tipo</translation>
+    </message>
+    <message>
+        <source>A type is not known</source>
+        <translation>Un tipo no se conoce</translation>
+    </message>
+    <message>
+        <source>A text has no size</source>
+        <translation>Un texto no tiene tamaño</translation>
+    </message>
+    <message>
+        <source>A whole number or text has decimals</source>
+        <translation>Un número entero o un texto tiene decimales</translation>
+    </message>
+    <message>
+        <source>The decimals do not fit into the field</source>
+        <translation>Los decimales no caben en el campo</translation>
+    </message>
+    <message>
+        <source>A tag is out of bounds</source>
+        <translation>Una marca está fuera de los límites</translation>
+    </message>
+    <message>
+        <source>A lookup stands in an entity that is not selectable</source>
+        <translation>Una tabla de consulta está en una entidad no seleccionable</translation>
+    </message>
+    <message>
+        <source>A field has a start but no length</source>
+        <translation>Un campo tiene inicio pero no longitud</translation>
+    </message>
+</context>
+<context>
+    <name>DictionaryDifference</name>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Disposición</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Rango</translation>
+    </message>
+    <message>
+        <source>Value label</source>
+        <translation>Etiqueta de valor</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>%1: se añadió</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1: se eliminó</translation>
+    </message>
+    <message>
+        <source>%1 moved from position %2 to %3</source>
+        <translation>%1: se movió de la posición %2 a la %3</translation>
+    </message>
+    <message>
+        <source>%1 moved to %2</source>
+        <translation>%1: se movió a %2</translation>
+    </message>
+    <message>
+        <source>%1 renamed to %2</source>
+        <translation>%1: ahora se llama %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 changed from %3 to %4</source>
+        <translation>%1: %2 cambió de %3 a %4</translation>
+    </message>
+    <message>
+        <source>No differences.</source>
+        <translation>Sin diferencias.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>nombre</translation>
+    </message>
+    <message>
+        <source>label</source>
+        <translation>etiqueta</translation>
+    </message>
+    <message>
+        <source>alias</source>
+        <translation>alias</translation>
+    </message>
+    <message>
+        <source>code variable</source>
+        <translation>variable de código</translation>
+    </message>
+    <message>
+        <source>label variable</source>
+        <translation>variable de etiqueta</translation>
+    </message>
+    <message>
+        <source>weight variable</source>
+        <translation>variable de ponderación</translation>
+    </message>
+    <message>
+        <source>documentation</source>
+        <translation>documentación</translation>
+    </message>
+    <message>
+        <source>level</source>
+        <translation>nivel</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>«virtual»</translation>
+    </message>
+    <message>
+        <source>selectable</source>
+        <translation>«seleccionable»</translation>
+    </message>
+    <message>
+        <source>marked for deletion</source>
+        <translation>marca de borrado</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>grupo</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>tipo</translation>
+    </message>
+    <message>
+        <source>file name</source>
+        <translation>nombre de archivo</translation>
+    </message>
+    <message>
+        <source>size</source>
+        <translation>tamaño</translation>
+    </message>
+    <message>
+        <source>decimals</source>
+        <translation>decimales</translation>
+    </message>
+    <message>
+        <source>field size</source>
+        <translation>tamaño del campo</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>posición</translation>
+    </message>
+    <message>
+        <source>missing code</source>
+        <translation>código de valor perdido</translation>
+    </message>
+    <message>
+        <source>not-applicable code</source>
+        <translation>código de no aplicable</translation>
+    </message>
+    <message>
+        <source>tag</source>
+        <translation>marca</translation>
+    </message>
+    <message>
+        <source>checked</source>
+        <translation>casilla</translation>
+    </message>
+    <message>
+        <source>local</source>
+        <translation>«local»</translation>
+    </message>
+    <message>
+        <source>record</source>
+        <translation>registro</translation>
+    </message>
+    <message>
+        <source>field</source>
+        <translation>campo</translation>
+    </message>
+    <message>
+        <source>start</source>
+        <translation>inicio</translation>
+    </message>
+    <message>
+        <source>length</source>
+        <translation>longitud</translation>
+    </message>
+    <message>
+        <source>lookup</source>
+        <translation>tabla de consulta</translation>
+    </message>
+    <message>
+        <source>minimum</source>
+        <translation>mínimo</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>máximo</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>código</translation>
+    </message>
+</context>
+<context>
+    <name>DictionaryFile</name>
+    <message>
+        <source>There is no root entity.</source>
+        <translation>No hay entidad raíz.</translation>
+    </message>
+    <message>
+        <source>There are %1 root entities instead of one.</source>
+        <translation>Hay %1 entidades raíz en lugar de una.</translation>
+    </message>
+</context>
+<context>
+    <name>DictionaryTreeModel</name>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>Entity name already exists as a group name</source>
+        <translation>El nombre de la entidad ya existe como nombre de grupo</translation>
+    </message>
+    <message>
+        <source>Entity name already exists</source>
+        <translation>El nombre de la entidad ya existe</translation>
+    </message>
+    <message>
+        <source>Entity name already exists as an alias name</source>
+        <translation>El nombre de la entidad ya existe como alias</translation>
+    </message>
+    <message>
+        <source>Invalid string</source>
+        <translation>Texto no válido</translation>
+    </message>
+    <message>
+        <source>Chain with length greater than 50</source>
+        <translation>Texto de más de 50 caracteres</translation>
+    </message>
+</context>
+<context>
+    <name>Document</name>
+    <message>
+        <source>DICTIONARY</source>
+        <translation>DICCIONARIO</translation>
+    </message>
+    <message>
+        <source>New dictionary</source>
+        <translation>Diccionario nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFile</name>
+    <message>
+        <source>It is not a file.</source>
+        <translation>No es un archivo.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>No existe ese archivo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>No se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>There is no file yet to be saved to.</source>
+        <translation>Aún no hay un archivo en el que guardar.</translation>
+    </message>
+    <message>
+        <source>%1 is read-only.</source>
+        <translation>%1 es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>%1 has been changed since it was opened.</source>
+        <translation>%1 ha cambiado desde que se abrió.</translation>
+    </message>
+    <message>
+        <source>%1 holds what cannot be kept:</source>
+        <translation>%1 contiene lo que no se puede conservar:</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>is there more than once; only the last is kept</source>
+        <translation>está más de una vez; solo se conserva la última</translation>
+    </message>
+    <message>
+        <source>%1 has more digits than can be kept</source>
+        <translation>%1 tiene más cifras de las que se pueden conservar</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>línea %1, columna %2</translation>
+    </message>
+</context>
+<context>
+    <name>EntityForm</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Entity name</source>
+        <translation>Nombre de la entidad</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Entity label</source>
+        <translation>Etiqueta de la entidad</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Entity alias</source>
+        <translation>Alias de la entidad</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Reference code variable</source>
+        <translation>Variable del código de referencia</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Reference label variable</source>
+        <translation>Variable de la etiqueta de referencia</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Ponderación</translation>
+    </message>
+    <message>
+        <source>Weight variable</source>
+        <translation>Variable de ponderación</translation>
+    </message>
+    <message>
+        <source>Selectable</source>
+        <translation>Seleccionable</translation>
+    </message>
+    <message>
+        <source>Virtual</source>
+        <translation>Virtual</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Entity documentation</source>
+        <translation>Documentación de la entidad</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+</context>
+<context>
+    <name>EntityTreePanel</name>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>ENTITY</source>
+        <translation>ENTIDAD</translation>
+    </message>
+    <message>
+        <source>adding %1</source>
+        <translation>añadir %1</translation>
+    </message>
+    <message>
+        <source>duplicating %1</source>
+        <translation>duplicar %1</translation>
+    </message>
+    <message>
+        <source>removing %1</source>
+        <translation>eliminar %1</translation>
+    </message>
+    <message>
+        <source>moving %1</source>
+        <translation>mover %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExpressionCheck</name>
+    <message>
+        <source>A value or a variable is missing at the end.</source>
+        <translation>Falta un valor o una variable al final.</translation>
+    </message>
+    <message>
+        <source>This parenthesis is never closed.</source>
+        <translation>Este paréntesis no se cierra nunca.</translation>
+    </message>
+    <message>
+        <source>A value or a variable is missing before “%1”.</source>
+        <translation>Falta un valor o una variable antes de «%1».</translation>
+    </message>
+    <message>
+        <source>An operator is missing before “%1”.</source>
+        <translation>Falta un operador antes de «%1».</translation>
+    </message>
+    <message>
+        <source>This parenthesis was never opened.</source>
+        <translation>Este paréntesis no se abrió nunca.</translation>
+    </message>
+    <message>
+        <source>“%1” has no end.</source>
+        <translation>«%1» no tiene fin.</translation>
+    </message>
+    <message>
+        <source>“%1” means nothing here.</source>
+        <translation>«%1» no significa nada aquí.</translation>
+    </message>
+    <message>
+        <source>There is no entity “%1”.</source>
+        <translation>No existe la entidad «%1».</translation>
+    </message>
+    <message>
+        <source>There is neither an entity nor a variable “%1”.</source>
+        <translation>No existe ni una entidad ni una variable «%1».</translation>
+    </message>
+    <message>
+        <source>A variable needs its entity: “%1”.</source>
+        <translation>Una variable necesita su entidad: «%1».</translation>
+    </message>
+    <message>
+        <source>The name of a variable is missing after “%1”.</source>
+        <translation>Falta el nombre de una variable después de «%1».</translation>
+    </message>
+    <message>
+        <source>The entity “%1” has no variable “%2”.</source>
+        <translation>La entidad «%1» no tiene la variable «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>ExpressionDialog</name>
+    <message>
+        <source>Build Expression</source>
+        <translation>Crear expresión</translation>
+    </message>
+    <message>
+        <source>E&amp;xpression</source>
+        <translation>E&amp;xpresión</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>Expresión</translation>
+    </message>
+    <message>
+        <source>Drag items here or type, for instance PERSON.AGE &gt;= 15 AND PERSON.SEX = 1</source>
+        <translation>Arrastre elementos aquí o escriba, por ejemplo PERSON.AGE &gt;= 15 AND PERSON.SEX = 1</translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entidades</translation>
+    </message>
+    <message>
+        <source>The dictionary has no entities.</source>
+        <translation>El diccionario no tiene entidades.</translation>
+    </message>
+    <message>
+        <source>Insert Entity</source>
+        <translation>Insertar entidad</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variables</translation>
+    </message>
+    <message>
+        <source>The entity has no variables.</source>
+        <translation>La entidad no tiene variables.</translation>
+    </message>
+    <message>
+        <source>Insert Variable</source>
+        <translation>Insertar variable</translation>
+    </message>
+    <message>
+        <source>&amp;Categories</source>
+        <translation>&amp;Categorías</translation>
+    </message>
+    <message>
+        <source>The variable has no value labels.</source>
+        <translation>La variable no tiene etiquetas de valor.</translation>
+    </message>
+    <message>
+        <source>Insert Category</source>
+        <translation>Insertar categoría</translation>
+    </message>
+    <message>
+        <source>equal</source>
+        <translation>igual</translation>
+    </message>
+    <message>
+        <source>not equal</source>
+        <translation>distinto</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>menor que</translation>
+    </message>
+    <message>
+        <source>less than or equal</source>
+        <translation>menor o igual</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>mayor que</translation>
+    </message>
+    <message>
+        <source>greater than or equal</source>
+        <translation>mayor o igual</translation>
+    </message>
+    <message>
+        <source>both conditions hold</source>
+        <translation>se cumplen ambas condiciones</translation>
+    </message>
+    <message>
+        <source>one of the conditions holds</source>
+        <translation>se cumple una de las condiciones</translation>
+    </message>
+    <message>
+        <source>the condition does not hold</source>
+        <translation>la condición no se cumple</translation>
+    </message>
+    <message>
+        <source>opening parenthesis</source>
+        <translation>paréntesis de apertura</translation>
+    </message>
+    <message>
+        <source>closing parenthesis</source>
+        <translation>paréntesis de cierre</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>C&amp;opy to Clipboard</source>
+        <translation>C&amp;opiar al portapapeles</translation>
+    </message>
+    <message>
+        <source>&amp;Insert into Notes</source>
+        <translation>&amp;Insertar en las notas</translation>
+    </message>
+    <message>
+        <source>Insert the expression into “%1”</source>
+        <translation>Insertar la expresión en «%1»</translation>
+    </message>
+    <message>
+        <source>The expression is empty.</source>
+        <translation>La expresión está vacía.</translation>
+    </message>
+    <message>
+        <source>The expression is complete.</source>
+        <translation>La expresión está completa.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCommands</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation>¿Guardar los cambios de «%1»?</translation>
+    </message>
+    <message>
+        <source>Otherwise they are lost.</source>
+        <translation>De lo contrario se pierden.</translation>
+    </message>
+    <message>
+        <source>Open Dictionary</source>
+        <translation>Abrir diccionario</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>dictionary</source>
+        <translation>diccionario</translation>
+    </message>
+    <message>
+        <source>Save Dictionary As</source>
+        <translation>Guardar diccionario como</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Revertir</translation>
+    </message>
+    <message>
+        <source>Go back to “%1” as it was saved?</source>
+        <translation>¿Volver a «%1» tal como se guardó?</translation>
+    </message>
+    <message>
+        <source>All changes since then are lost, and so is what can be undone.</source>
+        <translation>Se pierden todos los cambios desde entonces, y también lo que se puede deshacer.</translation>
+    </message>
+</context>
+<context>
+    <name>FileDialogs</name>
+    <message>
+        <source>Quillon Workbench</source>
+        <translation>Quillon Workbench</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be saved.</source>
+        <translation>No se puede guardar «%1».</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save Anyway</source>
+        <translation>Guardar de todos modos</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Sobrescribir</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened.</source>
+        <translation>No se puede abrir «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsModel</name>
+    <message>
+        <source>Severity</source>
+        <translation>Gravedad</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Suggestion</source>
+        <translation>Sugerencia</translation>
+    </message>
+</context>
+<context>
+    <name>History</name>
+    <message>
+        <source>%L1 changes</source>
+        <translation>%L1 cambios</translation>
+    </message>
+    <message>
+        <source>rename of %1</source>
+        <translation>cambio de nombre de %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a property and what has it</comment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>change of %1</source>
+        <translation>cambio de %1</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsPanel</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>an action and a variable</comment>
+        <translation>%1 en %2</translation>
+    </message>
+</context>
+<context>
+    <name>LookupFile</name>
+    <message>
+        <source>No column is called &quot;id&quot;.</source>
+        <translation>Ninguna columna se llama «id».</translation>
+    </message>
+    <message>
+        <source>The id is empty.</source>
+        <translation>El identificador está vacío.</translation>
+    </message>
+    <message>
+        <source>The id &quot;%1&quot; stands in line %2 too.</source>
+        <translation>El identificador «%1» está también en la línea %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Fuentes</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problemas</translation>
+    </message>
+    <message>
+        <source>Problems (%L1)</source>
+        <translation>Problemas (%L1)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Deshacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Rehacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>About Quillon Workbench</source>
+        <translation>Acerca de Quillon Workbench</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Quillon Workbench %1&lt;/h3&gt;&lt;p&gt;An editor for data dictionaries.&lt;/p&gt;&lt;p&gt;Icons: Bootstrap Icons, MIT licence.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Quillon Workbench %1&lt;/h3&gt;&lt;p&gt;Un editor de diccionarios de datos.&lt;/p&gt;&lt;p&gt;Iconos: Bootstrap Icons, licencia MIT.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>%1[*] – Quillon Workbench</source>
+        <translation>%1[*] – Quillon Workbench</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemsPanel</name>
+    <message>
+        <source>Everything</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>Warnings and errors</source>
+        <translation>Advertencias y errores</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>Solo errores</translation>
+    </message>
+    <message>
+        <source>Problems to show</source>
+        <translation>Problemas que se muestran</translation>
+    </message>
+    <message>
+        <source>S&amp;how:</source>
+        <translation>Mo&amp;strar:</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problemas</translation>
+    </message>
+    <message>
+        <source>Looking for problems…</source>
+        <translation>Buscando problemas…</translation>
+    </message>
+    <message>
+        <source>No problems of this severity.</source>
+        <translation>No hay problemas de esta gravedad.</translation>
+    </message>
+</context>
+<context>
+    <name>Progress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>RangesPanel</name>
+    <message>
+        <source>Ranges</source>
+        <translation>Rangos</translation>
+    </message>
+    <message>
+        <source>No ranges: every value is valid.</source>
+        <translation>Sin rangos: todos los valores son válidos.</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFiles</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Abrir reci&amp;ente</translation>
+    </message>
+    <message>
+        <source>No files yet</source>
+        <translation>Aún no hay archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Vaciar la lista</translation>
+    </message>
+</context>
+<context>
+    <name>ReferenceList</name>
+    <message>
+        <source>Filter %1</source>
+        <translation>Filtrar %1</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Nombres</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Names and labels</source>
+        <translation>Nombres y etiquetas</translation>
+    </message>
+    <message>
+        <source>What to show of %1</source>
+        <translation>Qué se muestra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>RunConfigurationFile</name>
+    <message>
+        <source>There is no run configuration.</source>
+        <translation>No hay configuración de ejecución.</translation>
+    </message>
+</context>
+<context>
+    <name>SourceCommands</name>
+    <message>
+        <source>Open Dataset</source>
+        <translation>Abrir conjunto de datos</translation>
+    </message>
+    <message>
+        <source>Open CSV File</source>
+        <translation>Abrir archivo CSV</translation>
+    </message>
+    <message>
+        <source>Open Lookups</source>
+        <translation>Abrir tablas de consulta</translation>
+    </message>
+    <message>
+        <source>Reading the file…</source>
+        <translation>Leyendo el archivo…</translation>
+    </message>
+</context>
+<context>
+    <name>SourceFiles</name>
+    <message>
+        <source>Data files (*.%1)</source>
+        <translation>Archivos de datos (*.%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Fuentes</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>No se puede leer el archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>SourceReader</name>
+    <message>
+        <source>This kind of file is not known. Known are: %1.</source>
+        <translation>No se conoce este tipo de archivo. Se conocen: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SourceTab</name>
+    <message>
+        <source>Open a file to list its fields here, then drag them onto the variables.</source>
+        <translation>Abra un archivo para listar aquí sus campos y arrástrelos luego a las variables.</translation>
+    </message>
+    <message>
+        <source>Filter %1</source>
+        <translation>Filtrar %1</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+</context>
+<context>
+    <name>SourcesPanel</name>
+    <message>
+        <source>Dataset fields</source>
+        <translation>Campos del conjunto de datos</translation>
+    </message>
+    <message>
+        <source>CSV fields</source>
+        <translation>Campos CSV</translation>
+    </message>
+    <message>
+        <source>Lookups</source>
+        <translation>Tablas de consulta</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Fuentes</translation>
+    </message>
+    <message>
+        <source>Dataset</source>
+        <translation>Conjunto de datos</translation>
+    </message>
+    <message>
+        <source>CSV</source>
+        <translation>CSV</translation>
+    </message>
+    <message>
+        <source>All records</source>
+        <translation>Todos los registros</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsFields</name>
+    <message>
+        <source>variable %1</source>
+        <translation>variable %1</translation>
+    </message>
+    <message>
+        <source>These codes are empty or hold blanks and are left out of the categories: &quot;%1&quot;.</source>
+        <translation>Estos códigos están vacíos o contienen espacios y se omiten de las categorías: «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsFile</name>
+    <message>
+        <source>The file is damaged: its end is missing.</source>
+        <translation>El archivo está dañado: falta el final.</translation>
+    </message>
+    <message>
+        <source>row %1, %2</source>
+        <translation>fila %1, %2</translation>
+    </message>
+    <message>
+        <source>The file is damaged or of another kind: %1</source>
+        <translation>El archivo está dañado o es de otro tipo: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TableSchema</name>
+    <message>
+        <source>schema</source>
+        <translation>esquema</translation>
+    </message>
+    <message>
+        <source>This is no regular file.</source>
+        <translation>No es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>línea %1</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, línea %2</translation>
+    </message>
+    <message>
+        <source>This is no valid JSON: %1.</source>
+        <translation>No es JSON válido: %1.</translation>
+    </message>
+    <message>
+        <source>The file holds no JSON object.</source>
+        <translation>El archivo no contiene ningún objeto JSON.</translation>
+    </message>
+    <message>
+        <source>A data package must list its resources.</source>
+        <translation>Un paquete de datos debe enumerar sus recursos.</translation>
+    </message>
+    <message>
+        <source>resource %1</source>
+        <translation>recurso %1</translation>
+    </message>
+    <message>
+        <source>A resource must be an object with a name.</source>
+        <translation>Un recurso debe ser un objeto con nombre.</translation>
+    </message>
+    <message>
+        <source>The resource has no schema and is left out.</source>
+        <translation>El recurso no tiene esquema y se omite.</translation>
+    </message>
+    <message>
+        <source>The schema &quot;%1&quot; does not lie beside the package.</source>
+        <translation>El esquema «%1» no está junto al paquete.</translation>
+    </message>
+    <message>
+        <source>A table schema must list its fields.</source>
+        <translation>Un esquema de tabla debe enumerar sus campos.</translation>
+    </message>
+    <message>
+        <source>%1, field %2</source>
+        <translation>%1, campo %2</translation>
+    </message>
+    <message>
+        <source>A field must have a name.</source>
+        <translation>Un campo debe tener nombre.</translation>
+    </message>
+    <message>
+        <source>The code &quot;%1&quot; is empty or holds blanks and is left out of the categories.</source>
+        <translation>El código «%1» está vacío o contiene espacios y se omite de las categorías.</translation>
+    </message>
+</context>
+<context>
+    <name>UtilForms</name>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+</context>
+<context>
+    <name>ValueLabelsPanel</name>
+    <message>
+        <source>Value labels</source>
+        <translation>Etiquetas de valor</translation>
+    </message>
+    <message>
+        <source>No value labels.</source>
+        <translation>Sin etiquetas de valor.</translation>
+    </message>
+</context>
+<context>
+    <name>VariableDiccionaryModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <source>The value already exists as the alias of a variable.</source>
+        <translation>El valor ya existe como alias de una variable.</translation>
+    </message>
+    <message>
+        <source>The value already exists as the name of a variable.</source>
+        <translation>El valor ya existe como nombre de una variable.</translation>
+    </message>
+    <message>
+        <source>The value already exists as a entity name.</source>
+        <translation>El valor ya existe como nombre de una entidad.</translation>
+    </message>
+    <message>
+        <source>Invalid string</source>
+        <translation>Texto no válido</translation>
+    </message>
+    <message>
+        <source>The typed character string already exists</source>
+        <translation>El texto introducido ya existe</translation>
+    </message>
+    <message>
+        <source>The typed character string already exists as the alias of a variable</source>
+        <translation>El texto introducido ya existe como alias de una variable</translation>
+    </message>
+    <message>
+        <source>RefCode Variable</source>
+        <translation>Variable del código de referencia</translation>
+    </message>
+    <message>
+        <source>Variable identified as RefCode.
+Keep it as RefCode?</source>
+        <translation>La variable sirve de código de referencia.
+¿Desea mantenerla así?</translation>
+    </message>
+    <message>
+        <source>Error creating</source>
+        <translation>Error al crear</translation>
+    </message>
+    <message>
+        <source>Must be selectable entity.</source>
+        <translation>La entidad debe ser seleccionable.</translation>
+    </message>
+    <message>
+        <source>Overwrite variable</source>
+        <translation>Sobrescribir variable</translation>
+    </message>
+    <message>
+        <source>already exists.</source>
+        <translation>ya existe.</translation>
+    </message>
+    <message>
+        <source>Overwrite?</source>
+        <translation>¿Sobrescribir?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Sobrescribir</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Omitir</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Duplicated names</source>
+        <translation>Nombres duplicados</translation>
+    </message>
+</context>
+<context>
+    <name>VariableForm</name>
+    <message>
+        <source>Select a variable to see its properties.</source>
+        <translation>Seleccione una variable para ver sus propiedades.</translation>
+    </message>
+    <message>
+        <source>N&amp;ame</source>
+        <translation>Nom&amp;bre</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Al&amp;ias</source>
+        <translation>Al&amp;ias</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>La&amp;bel</source>
+        <translation>E&amp;tiqueta</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Grupo</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>T&amp;ype</source>
+        <translation>Ti&amp;po</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze</source>
+        <translation>Ta&amp;maño</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Decimals</source>
+        <translation>Decimales</translation>
+    </message>
+    <message>
+        <source>&amp;Missing</source>
+        <translation>Per&amp;dido</translation>
+    </message>
+    <message>
+        <source>Missing-value code</source>
+        <translation>Código de valor perdido</translation>
+    </message>
+    <message>
+        <source>Not appl.</source>
+        <translation>No apl.</translation>
+    </message>
+    <message>
+        <source>Not-applicable code</source>
+        <translation>Código de no aplicable</translation>
+    </message>
+    <message>
+        <source>Source record</source>
+        <translation>Registro de origen</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>Field size</source>
+        <translation>Tamaño del campo</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Field position</source>
+        <translation>Posición del campo</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Lookup</source>
+        <translation>Tabla de consulta</translation>
+    </message>
+    <message>
+        <source>Local</source>
+        <translation>Local</translation>
+    </message>
+    <message>
+        <source>N&amp;otes</source>
+        <translation>N&amp;otas</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentación</translation>
+    </message>
+</context>
+<context>
+    <name>VariableTablePanel</name>
+    <message>
+        <source>VARIABLE</source>
+        <translation>VARIABLE</translation>
+    </message>
+    <message>
+        <source>adding %1</source>
+        <translation>añadir %1</translation>
+    </message>
+    <message>
+        <source>duplicating %1</source>
+        <translation>duplicar %1</translation>
+    </message>
+    <message>
+        <source>duplicating %L1 variables</source>
+        <translation>duplicar %L1 variables</translation>
+    </message>
+    <message>
+        <source>removing %1</source>
+        <translation>eliminar %1</translation>
+    </message>
+    <message>
+        <source>removing %L1 variables</source>
+        <translation>eliminar %L1 variables</translation>
+    </message>
+    <message>
+        <source>moving %1</source>
+        <translation>mover %1</translation>
+    </message>
+    <message>
+        <source>moving %L1 variables</source>
+        <translation>mover %L1 variables</translation>
+    </message>
+    <message>
+        <source>Filter variables</source>
+        <translation>Filtrar variables</translation>
+    </message>
+    <message>
+        <source>Filter variables by name, alias, label, group or tag</source>
+        <translation>Filtrar variables por nombre, alias, etiqueta, grupo o marca</translation>
+    </message>
+    <message>
+        <source>No variables to show. Add one, or drag fields here from the sources below.</source>
+        <translation>No hay variables. Añada una o arrastre aquí campos de las fuentes de abajo.</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Number of variables</source>
+        <translation>Número de variables</translation>
+    </message>
+    <message>
+        <source>import of a field</source>
+        <translation>importación de un campo</translation>
+    </message>
+    <message>
+        <source>import of %L1 fields</source>
+        <translation>importación de %L1 campos</translation>
+    </message>
+    <message>
+        <source>No variable matches the filter.</source>
+        <translation>Ninguna variable coincide con el filtro.</translation>
+    </message>
+    <message>
+        <source>Variables: %L1</source>
+        <translation>Variables: %L1</translation>
+    </message>
+    <message>
+        <source>Variables: %L1 of %L2</source>
+        <translation>Variables: %L1 de %L2</translation>
+    </message>
+</context>
+<context>
+    <name>dictionaryTreeModelDownload</name>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The picture cannot be written to %1.</source>
+        <translation>No se puede escribir la imagen en %1.</translation>
+    </message>
+    <message>
+        <source>There is no %1 in the dictionary.</source>
+        <translation>No hay ningún %1 en el diccionario.</translation>
+    </message>
+</context>
+</TS>
