@@ -180,10 +180,6 @@
         <translation>Die Variable zum Referenzlabel der Entität machen oder das aufheben</translation>
     </message>
     <message>
-        <source>Use as &amp;Weight</source>
-        <translation>Als &amp;Gewicht verwenden</translation>
-    </message>
-    <message>
         <source>Make the variable the entity&apos;s weight, or stop it</source>
         <translation>Die Variable zum Gewicht der Entität machen oder das aufheben</translation>
     </message>
@@ -379,6 +375,42 @@
         <source>Main Tool Bar</source>
         <translation>Hauptsymbolleiste</translation>
     </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows, for a spreadsheet or another table</source>
+        <translation>Die ausgewählten Zeilen für eine Tabellenkalkulation oder eine andere Tabelle kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste rows of a spreadsheet or of another table</source>
+        <translation>Zeilen einer Tabellenkalkulation oder einer anderen Tabelle einfügen</translation>
+    </message>
+    <message>
+        <source>Use as Wei&amp;ght</source>
+        <translation>Als &amp;Gewicht verwenden</translation>
+    </message>
+    <message>
+        <source>New &amp;Run Configuration…</source>
+        <translation>Neue &amp;Laufkonfiguration…</translation>
+    </message>
+    <message>
+        <source>Say which entities and variables take part in a run</source>
+        <translation>Angeben, welche Entitäten und Variablen an einem Lauf teilnehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Open Run Configuration…</source>
+        <translation>Laufkonfiguration ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Change a run configuration that was saved</source>
+        <translation>Eine gespeicherte Laufkonfiguration ändern</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -515,6 +547,52 @@
     <message>
         <source>Looking for problems…</source>
         <translation>Nach Problemen wird gesucht…</translation>
+    </message>
+</context>
+<context>
+    <name>ClipboardCommands</name>
+    <message>
+        <source>Pasting…</source>
+        <translation>Es wird eingefügt…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted.</source>
+        <translation>Es wurde nichts eingefügt.</translation>
+    </message>
+    <message>
+        <source>Pasted rows: %L1. Not everything could be taken over:</source>
+        <translation>Eingefügte Zeilen: %L1. Nicht alles konnte übernommen werden:</translation>
+    </message>
+    <message>
+        <source>There are %L1 more; the details list them all.</source>
+        <translation>Es gibt %L1 weitere; die Details führen alle auf.</translation>
+    </message>
+</context>
+<context>
+    <name>ClipboardTable</name>
+    <message>
+        <source>Select a variable to paste into.</source>
+        <translation>Wählen Sie eine Variable aus, in die eingefügt wird.</translation>
+    </message>
+    <message>
+        <source>pasting a row</source>
+        <translation>Einfügen einer Zeile</translation>
+    </message>
+    <message>
+        <source>pasting %L1 rows</source>
+        <translation>Einfügen von %L1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 into %2</source>
+        <translation>%1 in %2</translation>
     </message>
 </context>
 <context>
@@ -734,6 +812,14 @@
         <source>The theme is light, dark or system.</source>
         <translation>Das Thema ist light, dark oder system.</translation>
     </message>
+    <message>
+        <source>Go through what the workbench can do, leave pictures in &lt;folder&gt; and quit.</source>
+        <translation>Zeigen, was die Workbench kann, Bilder in &lt;folder&gt; ablegen und beenden.</translation>
+    </message>
+    <message>
+        <source>The tour needs a dictionary to go through.</source>
+        <translation>Der Rundgang braucht ein Wörterbuch, das er zeigt.</translation>
+    </message>
 </context>
 <context>
     <name>CsvDialect</name>
@@ -809,6 +895,85 @@
     <message>
         <source>byte %1 of %2</source>
         <translation>Byte %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>DescriptionPage</name>
+    <message>
+        <source>The Run</source>
+        <translation>Der Lauf</translation>
+    </message>
+    <message>
+        <source>What the run is called, who makes it, and where its data come from.</source>
+        <translation>Wie der Lauf heißt, wer ihn macht und woher seine Daten kommen.</translation>
+    </message>
+    <message>
+        <source>Na&amp;me</source>
+        <translation>N&amp;ame</translation>
+    </message>
+    <message>
+        <source>&amp;Label</source>
+        <translation>&amp;Label</translation>
+    </message>
+    <message>
+        <source>&amp;Author</source>
+        <translation>A&amp;utor</translation>
+    </message>
+    <message>
+        <source>&amp;Project</source>
+        <translation>&amp;Projekt</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Ordner</translation>
+    </message>
+    <message>
+        <source>Choose the Folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Source file</source>
+        <translation>&amp;Quelldatei</translation>
+    </message>
+    <message>
+        <source>Choose the Source File</source>
+        <translation>Quelldatei wählen</translation>
+    </message>
+    <message>
+        <source>Fil&amp;ter</source>
+        <translation>&amp;Filter</translation>
+    </message>
+    <message>
+        <source>Sele&amp;ction filter</source>
+        <translation>Auswahlfilt&amp;er</translation>
+    </message>
+    <message>
+        <source>F&amp;ile filter</source>
+        <translation>&amp;Dateifilter</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Kennwor&amp;t</translation>
+    </message>
+    <message>
+        <source>None. With one, only you will be able to read the file.</source>
+        <translation>Keines. Mit einem können nur Sie die Datei lesen.</translation>
+    </message>
+    <message>
+        <source>Create no &amp;ranges</source>
+        <translation>&amp;Keine Bereiche anlegen</translation>
+    </message>
+    <message>
+        <source>Put the codes for not applicable an&amp;d missing into the ranges</source>
+        <translation>Codes für nicht zutreffend und fehlende Werte in die Bereiche aufne&amp;hmen</translation>
+    </message>
+    <message>
+        <source>The file speaks of what the open dictionary does not have. It is not offered here and stays in the file as it is.</source>
+        <translation>Die Datei nennt, was das geöffnete Wörterbuch nicht hat. Es wird hier nicht angeboten und bleibt in der Datei, wie es ist.</translation>
+    </message>
+    <message>
+        <source>What the dictionary does not have</source>
+        <translation>Was das Wörterbuch nicht hat</translation>
     </message>
 </context>
 <context>
@@ -1762,6 +1927,53 @@
     </message>
 </context>
 <context>
+    <name>EntitiesPage</name>
+    <message>
+        <source>Check the se&amp;quence of its records</source>
+        <translation>Reihenfolge der Datensätze &amp;prüfen</translation>
+    </message>
+    <message>
+        <source>Create S&amp;DC</source>
+        <translation>S&amp;DC anlegen</translation>
+    </message>
+    <message>
+        <source>Mar&amp;k for deletion</source>
+        <translation>Zum &amp;Löschen vormerken</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entitäten</translation>
+    </message>
+    <message>
+        <source>Tick the entities that take part. Space switches the tick of the current one.</source>
+        <translation>Setzen Sie Häkchen bei den Entitäten, die teilnehmen. Die Leertaste schaltet das Häkchen der aktuellen um.</translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entitäten</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Select N&amp;one</source>
+        <translation>&amp;Keine auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Record type</source>
+        <translation>Satza&amp;rt</translation>
+    </message>
+    <message>
+        <source>How %1 takes part</source>
+        <translation>Wie %1 teilnimmt</translation>
+    </message>
+    <message>
+        <source>%1 does not take part</source>
+        <translation>%1 nimmt nicht teil</translation>
+    </message>
+</context>
+<context>
     <name>EntityForm</name>
     <message>
         <source>Name</source>
@@ -2233,6 +2445,50 @@
     </message>
 </context>
 <context>
+    <name>Paste</name>
+    <message>
+        <source>%1 and %L2 more</source>
+        <translation>%1 und %L2 weitere</translation>
+    </message>
+    <message>
+        <source>There is no such column, so it was left out.</source>
+        <translation>Diese Spalte gibt es nicht, sie wurde daher ausgelassen.</translation>
+    </message>
+    <message>
+        <source>There are no such columns, so they were left out.</source>
+        <translation>Diese Spalten gibt es nicht, sie wurden daher ausgelassen.</translation>
+    </message>
+    <message>
+        <source>There is no text on the clipboard.</source>
+        <translation>In der Zwischenablage ist kein Text.</translation>
+    </message>
+    <message>
+        <source>This line and those below</source>
+        <translation>Diese Zeile und die darunter</translation>
+    </message>
+    <message>
+        <source>Pasting was stopped.</source>
+        <translation>Das Einfügen wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot;</source>
+        <translation>%1 „%2“</translation>
+    </message>
+    <message>
+        <source>Cells after the first %L1</source>
+        <translation>Zellen nach den ersten %L1</translation>
+    </message>
+    <message>
+        <source>There is no column for them.</source>
+        <translation>Für sie gibt es keine Spalte.</translation>
+    </message>
+    <message>
+        <source>Line %L1: %2. %3</source>
+        <comment>what was refused, and why</comment>
+        <translation>Zeile %L1: %2. %3</translation>
+    </message>
+</context>
+<context>
     <name>ProblemsPanel</name>
     <message>
         <source>Everything</source>
@@ -2251,10 +2507,6 @@
         <translation>Gezeigte Probleme</translation>
     </message>
     <message>
-        <source>S&amp;how:</source>
-        <translation>&amp;Zeigen:</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>Probleme</translation>
     </message>
@@ -2266,12 +2518,35 @@
         <source>No problems of this severity.</source>
         <translation>Keine Probleme dieser Schwere.</translation>
     </message>
+    <message>
+        <source>&amp;Display:</source>
+        <translation>&amp;Zeigen:</translation>
+    </message>
 </context>
 <context>
     <name>Progress</name>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>RangeTarget</name>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>This is no whole number.</source>
+        <translation>Dies ist keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>This is no number.</source>
+        <translation>Dies ist keine Zahl.</translation>
     </message>
 </context>
 <context>
@@ -2328,10 +2603,162 @@
     </message>
 </context>
 <context>
+    <name>RunCommands</name>
+    <message>
+        <source>Open Run Configuration</source>
+        <translation>Laufkonfiguration öffnen</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+</context>
+<context>
     <name>RunConfigurationFile</name>
     <message>
         <source>There is no run configuration.</source>
         <translation>Es gibt keine Laufkonfiguration.</translation>
+    </message>
+</context>
+<context>
+    <name>RunPage</name>
+    <message>
+        <source>What is missing</source>
+        <translation>Was fehlt</translation>
+    </message>
+</context>
+<context>
+    <name>RunWizard</name>
+    <message>
+        <source>New Run Configuration</source>
+        <translation>Neue Laufkonfiguration</translation>
+    </message>
+    <message>
+        <source>Run Configuration %1</source>
+        <translation>Laufkonfiguration %1</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Leave without saving the run configuration?</source>
+        <translation>Verlassen, ohne die Laufkonfiguration zu speichern?</translation>
+    </message>
+    <message>
+        <source>What you chose here is lost.</source>
+        <translation>Was Sie hier gewählt haben, geht verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>RunWords</name>
+    <message>
+        <source>Give the run a name.</source>
+        <translation>Geben Sie dem Lauf einen Namen.</translation>
+    </message>
+    <message>
+        <source>Tick at least one entity that takes part.</source>
+        <translation>Setzen Sie bei mindestens einer Entität ein Häkchen.</translation>
+    </message>
+    <message>
+        <source>Tick at least one variable of %1, or go back and leave it out.</source>
+        <translation>Setzen Sie bei mindestens einer Variable von %1 ein Häkchen oder gehen Sie zurück und lassen Sie sie aus.</translation>
+    </message>
+    <message>
+        <source>one without a name</source>
+        <translation>eine ohne Namen</translation>
+    </message>
+    <message>
+        <source>Entities that the dictionary does not have: %1</source>
+        <translation>Entitäten, die das Wörterbuch nicht hat: %1</translation>
+    </message>
+    <message>
+        <source>Variables that %1 does not have: %2</source>
+        <translation>Variablen, die %1 nicht hat: %2</translation>
+    </message>
+    <message>
+        <source>%1 with all variables</source>
+        <translation>%1 mit allen Variablen</translation>
+    </message>
+    <message>
+        <source>%1 with %2 of %3 variables</source>
+        <translation>%1 mit %2 von %3 Variablen</translation>
+    </message>
+    <message>
+        <source>The record type is %1.</source>
+        <translation>Die Satzart ist %1.</translation>
+    </message>
+    <message>
+        <source>The sequence of its records is not checked.</source>
+        <translation>Die Reihenfolge der Datensätze wird nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>SDC is created.</source>
+        <translation>SDC wird angelegt.</translation>
+    </message>
+    <message>
+        <source>It is marked for deletion.</source>
+        <translation>Sie ist zum Löschen vorgemerkt.</translation>
+    </message>
+    <message>
+        <source>Label: %1</source>
+        <translation>Label: %1</translation>
+    </message>
+    <message>
+        <source>Author: %1</source>
+        <translation>Autor: %1</translation>
+    </message>
+    <message>
+        <source>Project: %1</source>
+        <translation>Projekt: %1</translation>
+    </message>
+    <message>
+        <source>Folder: %1</source>
+        <translation>Ordner: %1</translation>
+    </message>
+    <message>
+        <source>Source file: %1</source>
+        <translation>Quelldatei: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message>
+        <source>Selection filter: %1</source>
+        <translation>Auswahlfilter: %1</translation>
+    </message>
+    <message>
+        <source>File filter: %1</source>
+        <translation>Dateifilter: %1</translation>
+    </message>
+    <message>
+        <source>No ranges are created.</source>
+        <translation>Es werden keine Bereiche angelegt.</translation>
+    </message>
+    <message>
+        <source>The codes for not applicable and missing are in the ranges.</source>
+        <translation>Die Codes für nicht zutreffend und fehlende Werte sind in den Bereichen.</translation>
+    </message>
+    <message>
+        <source>The password stands in the file as it is. Only you will be able to read the file.</source>
+        <translation>Das Kennwort steht unverändert in der Datei. Nur Sie können die Datei lesen.</translation>
+    </message>
+    <message>
+        <source>The run is called %1.</source>
+        <translation>Der Lauf heißt %1.</translation>
+    </message>
+    <message>
+        <source>These entities take part:</source>
+        <translation>Diese Entitäten nehmen teil:</translation>
+    </message>
+    <message>
+        <source>Kept as it is in the file:</source>
+        <translation>Bleibt in der Datei, wie es ist:</translation>
     </message>
 </context>
 <context>
@@ -2456,6 +2883,64 @@
     </message>
 </context>
 <context>
+    <name>SummaryPage</name>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>This is what the run configuration says. Save it, or go back and change it.</source>
+        <translation>Das sagt die Laufkonfiguration. Speichern Sie sie oder gehen Sie zurück und ändern Sie sie.</translation>
+    </message>
+    <message>
+        <source>Save &amp;as</source>
+        <translation>Speichern &amp;unter</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation>&amp;Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>Say where the run configuration is to be saved.</source>
+        <translation>Geben Sie an, wo die Laufkonfiguration gespeichert werden soll.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>„%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Its content will be lost.</source>
+        <translation>Ihr Inhalt geht verloren.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Save Run Configuration</source>
+        <translation>Laufkonfiguration speichern</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>TabText</name>
+    <message>
+        <source>The clipboard does not hold a table but characters that are no text.</source>
+        <translation>Die Zwischenablage enthält keine Tabelle, sondern Zeichen, die kein Text sind.</translation>
+    </message>
+    <message>
+        <source>The quotation mark that a cell of line %L1 begins with is never closed.</source>
+        <translation>Das Anführungszeichen, mit dem eine Zelle der Zeile %L1 beginnt, wird nie geschlossen.</translation>
+    </message>
+</context>
+<context>
     <name>TableSchema</name>
     <message>
         <source>schema</source>
@@ -2519,6 +3004,72 @@
     </message>
 </context>
 <context>
+    <name>Tour</name>
+    <message>
+        <source>A dictionary is open.</source>
+        <translation>Ein Wörterbuch ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>An entity is renamed.</source>
+        <translation>Eine Entität wird umbenannt.</translation>
+    </message>
+    <message>
+        <source>A variable is found by typing a part of its label.</source>
+        <translation>Eine Variable wird durch einen Teil ihres Labels gefunden.</translation>
+    </message>
+    <message>
+        <source>Its label is edited in place.</source>
+        <translation>Ihr Label wird in der Tabelle bearbeitet.</translation>
+    </message>
+    <message>
+        <source>It gets a value label and a range.</source>
+        <translation>Sie bekommt ein Wertelabel und einen Bereich.</translation>
+    </message>
+    <message>
+        <source>A data file lists its fields.</source>
+        <translation>Eine Datendatei führt ihre Felder auf.</translation>
+    </message>
+    <message>
+        <source>The fields become variables; clashes are resolved.</source>
+        <translation>Die Felder werden zu Variablen; Namenskonflikte werden gelöst.</translation>
+    </message>
+    <message>
+        <source>Every step can be undone and redone.</source>
+        <translation>Jeder Schritt lässt sich rückgängig machen und wiederholen.</translation>
+    </message>
+    <message>
+        <source>The dictionary is saved.</source>
+        <translation>Das Wörterbuch wird gespeichert.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2.</source>
+        <translation>%1 kann nicht nach %2 kopiert werden.</translation>
+    </message>
+    <message>
+        <source>The tour ended early, at “%1”.</source>
+        <translation>Der Rundgang endete vorzeitig bei „%1“.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) in %1</source>
+        <translation>
+            <numerusform>%n Bild in %1</numerusform>
+            <numerusform>%n Bilder in %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The picture cannot be written to %1.</source>
+        <translation>Das Bild kann nicht nach %1 geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+</context>
+<context>
     <name>UtilForms</name>
     <message>
         <source>Error</source>
@@ -2527,6 +3078,17 @@
     <message>
         <source>Information</source>
         <translation>Information</translation>
+    </message>
+</context>
+<context>
+    <name>ValueLabelTarget</name>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +3395,128 @@ Soll sie es bleiben?</translation>
     <message>
         <source>No variable matches the filter.</source>
         <translation>Keine Variable passt zum Filter.</translation>
+    </message>
+    <message>
+        <source>Variables: %L1</source>
+        <translation>Variablen: %L1</translation>
+    </message>
+    <message>
+        <source>Variables: %L1 of %L2</source>
+        <translation>Variablen: %L1 von %L2</translation>
+    </message>
+</context>
+<context>
+    <name>VariableWriter</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>true</source>
+        <translation>wahr</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>false</source>
+        <translation>falsch</translation>
+    </message>
+    <message>
+        <source>It was stored as &quot;%1&quot;.</source>
+        <translation>Gespeichert wurde „%1“.</translation>
+    </message>
+    <message>
+        <source>A variable needs a name.</source>
+        <translation>Eine Variable braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>This is no whole number.</source>
+        <translation>Dies ist keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>This is neither yes nor no.</source>
+        <translation>Dies ist weder ja noch nein.</translation>
+    </message>
+</context>
+<context>
+    <name>VariablesPage</name>
+    <message>
+        <source>Take all variables, those that are a&amp;dded later too</source>
+        <translation>Alle Variablen nehmen, auch später &amp;hinzugefügte</translation>
+    </message>
+    <message>
+        <source>Filter variables</source>
+        <translation>Variablen filtern</translation>
+    </message>
+    <message>
+        <source>Filter the variables</source>
+        <translation>Die Variablen filtern</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Tick the variables that take part, entity by entity. Space switches the ticks of the selected rows.</source>
+        <translation>Setzen Sie Häkchen bei den Variablen, die teilnehmen, Entität für Entität. Die Leertaste schaltet die Häkchen der ausgewählten Zeilen um.</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Aufteilen</translation>
+    </message>
+    <message>
+        <source>Tick what tells the records apart when they are split: reference codes, labels and weights are offered here too.</source>
+        <translation>Setzen Sie Häkchen bei dem, was die Datensätze beim Aufteilen unterscheidet: Auch Referenzcodes, Labels und Gewichte werden hier angeboten.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>These variables are downloaded. Take away the ticks of those that are not wanted after all.</source>
+        <translation>Diese Variablen werden heruntergeladen. Entfernen Sie die Häkchen bei denen, die doch nicht gewünscht sind.</translation>
+    </message>
+    <message>
+        <source>Entities that take part</source>
+        <translation>Teilnehmende Entitäten</translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entitäten</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variablen</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter</source>
+        <translation>Fi&amp;lter</translation>
+    </message>
+    <message>
+        <source>Select &amp;All Shown</source>
+        <translation>&amp;Alle gezeigten auswählen</translation>
+    </message>
+    <message>
+        <source>Select N&amp;one Shown</source>
+        <translation>&amp;Keine gezeigten auswählen</translation>
+    </message>
+    <message>
+        <source>No variable matches the filter.</source>
+        <translation>Keine Variable passt zum Filter.</translation>
+    </message>
+    <message>
+        <source>Nothing of this entity is downloaded.</source>
+        <translation>Von dieser Entität wird nichts heruntergeladen.</translation>
+    </message>
+    <message>
+        <source>This entity has no variables to choose from.</source>
+        <translation>Diese Entität hat keine Variablen zur Auswahl.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <translation>%1 (%2 von %3)</translation>
     </message>
     <message>
         <source>Variables: %L1</source>

@@ -180,10 +180,6 @@
         <translation>Hacer de la variable la etiqueta de referencia de la entidad, o dejar de usarla así</translation>
     </message>
     <message>
-        <source>Use as &amp;Weight</source>
-        <translation>Usar como &amp;ponderación</translation>
-    </message>
-    <message>
         <source>Make the variable the entity&apos;s weight, or stop it</source>
         <translation>Hacer de la variable la ponderación de la entidad, o dejar de usarla así</translation>
     </message>
@@ -379,6 +375,42 @@
         <source>Main Tool Bar</source>
         <translation>Barra de herramientas principal</translation>
     </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows, for a spreadsheet or another table</source>
+        <translation>Copiar las filas seleccionadas, para una hoja de cálculo u otra tabla</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Paste rows of a spreadsheet or of another table</source>
+        <translation>Pegar filas de una hoja de cálculo o de otra tabla</translation>
+    </message>
+    <message>
+        <source>Use as Wei&amp;ght</source>
+        <translation>Usar como &amp;ponderación</translation>
+    </message>
+    <message>
+        <source>New &amp;Run Configuration…</source>
+        <translation>Nueva configuración de e&amp;jecución…</translation>
+    </message>
+    <message>
+        <source>Say which entities and variables take part in a run</source>
+        <translation>Indicar qué entidades y variables participan en una ejecución</translation>
+    </message>
+    <message>
+        <source>&amp;Open Run Configuration…</source>
+        <translation>Abrir configuración de ejec&amp;ución…</translation>
+    </message>
+    <message>
+        <source>Change a run configuration that was saved</source>
+        <translation>Cambiar una configuración de ejecución guardada</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -515,6 +547,52 @@
     <message>
         <source>Looking for problems…</source>
         <translation>Buscando problemas…</translation>
+    </message>
+</context>
+<context>
+    <name>ClipboardCommands</name>
+    <message>
+        <source>Pasting…</source>
+        <translation>Pegando…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted.</source>
+        <translation>No se pegó nada.</translation>
+    </message>
+    <message>
+        <source>Pasted rows: %L1. Not everything could be taken over:</source>
+        <translation>Filas pegadas: %L1. No se pudo tomar todo:</translation>
+    </message>
+    <message>
+        <source>There are %L1 more; the details list them all.</source>
+        <translation>Hay %L1 más; los detalles las enumeran todas.</translation>
+    </message>
+</context>
+<context>
+    <name>ClipboardTable</name>
+    <message>
+        <source>Select a variable to paste into.</source>
+        <translation>Seleccione una variable en la que pegar.</translation>
+    </message>
+    <message>
+        <source>pasting a row</source>
+        <translation>pegar una fila</translation>
+    </message>
+    <message>
+        <source>pasting %L1 rows</source>
+        <translation>pegar %L1 filas</translation>
+    </message>
+    <message>
+        <source>%1 into %2</source>
+        <translation>%1 en %2</translation>
     </message>
 </context>
 <context>
@@ -734,6 +812,14 @@
         <source>The theme is light, dark or system.</source>
         <translation>El tema es light, dark o system.</translation>
     </message>
+    <message>
+        <source>Go through what the workbench can do, leave pictures in &lt;folder&gt; and quit.</source>
+        <translation>Mostrar lo que puede hacer el programa, dejar imágenes en &lt;folder&gt; y salir.</translation>
+    </message>
+    <message>
+        <source>The tour needs a dictionary to go through.</source>
+        <translation>El recorrido necesita un diccionario que mostrar.</translation>
+    </message>
 </context>
 <context>
     <name>CsvDialect</name>
@@ -809,6 +895,85 @@
     <message>
         <source>byte %1 of %2</source>
         <translation>byte %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>DescriptionPage</name>
+    <message>
+        <source>The Run</source>
+        <translation>La ejecución</translation>
+    </message>
+    <message>
+        <source>What the run is called, who makes it, and where its data come from.</source>
+        <translation>Cómo se llama la ejecución, quién la hace y de dónde vienen sus datos.</translation>
+    </message>
+    <message>
+        <source>Na&amp;me</source>
+        <translation>No&amp;mbre</translation>
+    </message>
+    <message>
+        <source>&amp;Label</source>
+        <translation>&amp;Etiqueta</translation>
+    </message>
+    <message>
+        <source>&amp;Author</source>
+        <translation>A&amp;utor</translation>
+    </message>
+    <message>
+        <source>&amp;Project</source>
+        <translation>&amp;Proyecto</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Carpeta</translation>
+    </message>
+    <message>
+        <source>Choose the Folder</source>
+        <translation>Elegir la carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Source file</source>
+        <translation>Archivo de &amp;origen</translation>
+    </message>
+    <message>
+        <source>Choose the Source File</source>
+        <translation>Elegir el archivo de origen</translation>
+    </message>
+    <message>
+        <source>Fil&amp;ter</source>
+        <translation>Fi&amp;ltro</translation>
+    </message>
+    <message>
+        <source>Sele&amp;ction filter</source>
+        <translation>Filtro de &amp;selección</translation>
+    </message>
+    <message>
+        <source>F&amp;ile filter</source>
+        <translation>Filtro de arch&amp;ivos</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word</source>
+        <translation>Con&amp;traseña</translation>
+    </message>
+    <message>
+        <source>None. With one, only you will be able to read the file.</source>
+        <translation>Ninguna. Con una, solo usted podrá leer el archivo.</translation>
+    </message>
+    <message>
+        <source>Create no &amp;ranges</source>
+        <translation>No crear &amp;rangos</translation>
+    </message>
+    <message>
+        <source>Put the codes for not applicable an&amp;d missing into the ranges</source>
+        <translation>Incluir en los ran&amp;gos los códigos de no aplicable y perdido</translation>
+    </message>
+    <message>
+        <source>The file speaks of what the open dictionary does not have. It is not offered here and stays in the file as it is.</source>
+        <translation>El archivo menciona lo que el diccionario abierto no tiene. No se ofrece aquí y queda en el archivo tal como está.</translation>
+    </message>
+    <message>
+        <source>What the dictionary does not have</source>
+        <translation>Lo que el diccionario no tiene</translation>
     </message>
 </context>
 <context>
@@ -1762,6 +1927,53 @@
     </message>
 </context>
 <context>
+    <name>EntitiesPage</name>
+    <message>
+        <source>Check the se&amp;quence of its records</source>
+        <translation>Comprobar la se&amp;cuencia de sus registros</translation>
+    </message>
+    <message>
+        <source>Create S&amp;DC</source>
+        <translation>Crear S&amp;DC</translation>
+    </message>
+    <message>
+        <source>Mar&amp;k for deletion</source>
+        <translation>Marcar para &amp;borrar</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>Tick the entities that take part. Space switches the tick of the current one.</source>
+        <translation>Marque las entidades que participan. La barra espaciadora cambia la marca de la actual.</translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entidades</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Seleccionar t&amp;odo</translation>
+    </message>
+    <message>
+        <source>Select N&amp;one</source>
+        <translation>&amp;Quitar la selección</translation>
+    </message>
+    <message>
+        <source>&amp;Record type</source>
+        <translation>Tipo de &amp;registro</translation>
+    </message>
+    <message>
+        <source>How %1 takes part</source>
+        <translation>Cómo participa %1</translation>
+    </message>
+    <message>
+        <source>%1 does not take part</source>
+        <translation>%1 no participa</translation>
+    </message>
+</context>
+<context>
     <name>EntityForm</name>
     <message>
         <source>Name</source>
@@ -2233,6 +2445,50 @@
     </message>
 </context>
 <context>
+    <name>Paste</name>
+    <message>
+        <source>%1 and %L2 more</source>
+        <translation>%1 y %L2 más</translation>
+    </message>
+    <message>
+        <source>There is no such column, so it was left out.</source>
+        <translation>No existe esa columna, así que se omitió.</translation>
+    </message>
+    <message>
+        <source>There are no such columns, so they were left out.</source>
+        <translation>No existen esas columnas, así que se omitieron.</translation>
+    </message>
+    <message>
+        <source>There is no text on the clipboard.</source>
+        <translation>No hay texto en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>This line and those below</source>
+        <translation>Esta línea y las siguientes</translation>
+    </message>
+    <message>
+        <source>Pasting was stopped.</source>
+        <translation>Se detuvo el pegado.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot;</source>
+        <translation>%1 «%2»</translation>
+    </message>
+    <message>
+        <source>Cells after the first %L1</source>
+        <translation>Celdas después de las primeras %L1</translation>
+    </message>
+    <message>
+        <source>There is no column for them.</source>
+        <translation>No hay columna para ellas.</translation>
+    </message>
+    <message>
+        <source>Line %L1: %2. %3</source>
+        <comment>what was refused, and why</comment>
+        <translation>Línea %L1: %2. %3</translation>
+    </message>
+</context>
+<context>
     <name>ProblemsPanel</name>
     <message>
         <source>Everything</source>
@@ -2251,10 +2507,6 @@
         <translation>Problemas que se muestran</translation>
     </message>
     <message>
-        <source>S&amp;how:</source>
-        <translation>Mo&amp;strar:</translation>
-    </message>
-    <message>
         <source>Problems</source>
         <translation>Problemas</translation>
     </message>
@@ -2266,12 +2518,35 @@
         <source>No problems of this severity.</source>
         <translation>No hay problemas de esta gravedad.</translation>
     </message>
+    <message>
+        <source>&amp;Display:</source>
+        <translation>Mo&amp;strar:</translation>
+    </message>
 </context>
 <context>
     <name>Progress</name>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>RangeTarget</name>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Máximo</translation>
+    </message>
+    <message>
+        <source>This is no whole number.</source>
+        <translation>No es un número entero.</translation>
+    </message>
+    <message>
+        <source>This is no number.</source>
+        <translation>No es un número.</translation>
     </message>
 </context>
 <context>
@@ -2328,10 +2603,162 @@
     </message>
 </context>
 <context>
+    <name>RunCommands</name>
+    <message>
+        <source>Open Run Configuration</source>
+        <translation>Abrir configuración de ejecución</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Se guardó %1</translation>
+    </message>
+</context>
+<context>
     <name>RunConfigurationFile</name>
     <message>
         <source>There is no run configuration.</source>
         <translation>No hay configuración de ejecución.</translation>
+    </message>
+</context>
+<context>
+    <name>RunPage</name>
+    <message>
+        <source>What is missing</source>
+        <translation>Lo que falta</translation>
+    </message>
+</context>
+<context>
+    <name>RunWizard</name>
+    <message>
+        <source>New Run Configuration</source>
+        <translation>Nueva configuración de ejecución</translation>
+    </message>
+    <message>
+        <source>Run Configuration %1</source>
+        <translation>Configuración de ejecución %1</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Leave without saving the run configuration?</source>
+        <translation>¿Salir sin guardar la configuración de ejecución?</translation>
+    </message>
+    <message>
+        <source>What you chose here is lost.</source>
+        <translation>Se pierde lo que ha elegido aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>RunWords</name>
+    <message>
+        <source>Give the run a name.</source>
+        <translation>Dé un nombre a la ejecución.</translation>
+    </message>
+    <message>
+        <source>Tick at least one entity that takes part.</source>
+        <translation>Marque al menos una entidad que participe.</translation>
+    </message>
+    <message>
+        <source>Tick at least one variable of %1, or go back and leave it out.</source>
+        <translation>Marque al menos una variable de %1, o vuelva atrás y déjela fuera.</translation>
+    </message>
+    <message>
+        <source>one without a name</source>
+        <translation>una sin nombre</translation>
+    </message>
+    <message>
+        <source>Entities that the dictionary does not have: %1</source>
+        <translation>Entidades que el diccionario no tiene: %1</translation>
+    </message>
+    <message>
+        <source>Variables that %1 does not have: %2</source>
+        <translation>Variables que %1 no tiene: %2</translation>
+    </message>
+    <message>
+        <source>%1 with all variables</source>
+        <translation>%1 con todas las variables</translation>
+    </message>
+    <message>
+        <source>%1 with %2 of %3 variables</source>
+        <translation>%1 con %2 de %3 variables</translation>
+    </message>
+    <message>
+        <source>The record type is %1.</source>
+        <translation>El tipo de registro es %1.</translation>
+    </message>
+    <message>
+        <source>The sequence of its records is not checked.</source>
+        <translation>No se comprueba la secuencia de sus registros.</translation>
+    </message>
+    <message>
+        <source>SDC is created.</source>
+        <translation>Se crea SDC.</translation>
+    </message>
+    <message>
+        <source>It is marked for deletion.</source>
+        <translation>Está marcada para borrar.</translation>
+    </message>
+    <message>
+        <source>Label: %1</source>
+        <translation>Etiqueta: %1</translation>
+    </message>
+    <message>
+        <source>Author: %1</source>
+        <translation>Autor: %1</translation>
+    </message>
+    <message>
+        <source>Project: %1</source>
+        <translation>Proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Folder: %1</source>
+        <translation>Carpeta: %1</translation>
+    </message>
+    <message>
+        <source>Source file: %1</source>
+        <translation>Archivo de origen: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtro: %1</translation>
+    </message>
+    <message>
+        <source>Selection filter: %1</source>
+        <translation>Filtro de selección: %1</translation>
+    </message>
+    <message>
+        <source>File filter: %1</source>
+        <translation>Filtro de archivos: %1</translation>
+    </message>
+    <message>
+        <source>No ranges are created.</source>
+        <translation>No se crean rangos.</translation>
+    </message>
+    <message>
+        <source>The codes for not applicable and missing are in the ranges.</source>
+        <translation>Los códigos de no aplicable y perdido están en los rangos.</translation>
+    </message>
+    <message>
+        <source>The password stands in the file as it is. Only you will be able to read the file.</source>
+        <translation>La contraseña está en el archivo tal cual. Solo usted podrá leer el archivo.</translation>
+    </message>
+    <message>
+        <source>The run is called %1.</source>
+        <translation>La ejecución se llama %1.</translation>
+    </message>
+    <message>
+        <source>These entities take part:</source>
+        <translation>Participan estas entidades:</translation>
+    </message>
+    <message>
+        <source>Kept as it is in the file:</source>
+        <translation>Queda en el archivo tal como está:</translation>
     </message>
 </context>
 <context>
@@ -2456,6 +2883,64 @@
     </message>
 </context>
 <context>
+    <name>SummaryPage</name>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>This is what the run configuration says. Save it, or go back and change it.</source>
+        <translation>Esto dice la configuración de ejecución. Guárdela, o vuelva atrás y cámbiela.</translation>
+    </message>
+    <message>
+        <source>Save &amp;as</source>
+        <translation>Guardar &amp;como</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse…</source>
+        <translation>E&amp;xaminar…</translation>
+    </message>
+    <message>
+        <source>Say where the run configuration is to be saved.</source>
+        <translation>Indique dónde se guardará la configuración de ejecución.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>«%1» ya existe.</translation>
+    </message>
+    <message>
+        <source>Its content will be lost.</source>
+        <translation>Se perderá su contenido.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Save Run Configuration</source>
+        <translation>Guardar configuración de ejecución</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>TabText</name>
+    <message>
+        <source>The clipboard does not hold a table but characters that are no text.</source>
+        <translation>El portapapeles no contiene una tabla, sino caracteres que no son texto.</translation>
+    </message>
+    <message>
+        <source>The quotation mark that a cell of line %L1 begins with is never closed.</source>
+        <translation>La comilla con la que empieza una celda de la línea %L1 no se cierra nunca.</translation>
+    </message>
+</context>
+<context>
     <name>TableSchema</name>
     <message>
         <source>schema</source>
@@ -2519,6 +3004,72 @@
     </message>
 </context>
 <context>
+    <name>Tour</name>
+    <message>
+        <source>A dictionary is open.</source>
+        <translation>Hay un diccionario abierto.</translation>
+    </message>
+    <message>
+        <source>An entity is renamed.</source>
+        <translation>Se cambia el nombre de una entidad.</translation>
+    </message>
+    <message>
+        <source>A variable is found by typing a part of its label.</source>
+        <translation>Se encuentra una variable escribiendo parte de su etiqueta.</translation>
+    </message>
+    <message>
+        <source>Its label is edited in place.</source>
+        <translation>Su etiqueta se edita en la tabla.</translation>
+    </message>
+    <message>
+        <source>It gets a value label and a range.</source>
+        <translation>Recibe una etiqueta de valor y un rango.</translation>
+    </message>
+    <message>
+        <source>A data file lists its fields.</source>
+        <translation>Un archivo de datos muestra sus campos.</translation>
+    </message>
+    <message>
+        <source>The fields become variables; clashes are resolved.</source>
+        <translation>Los campos pasan a ser variables; se resuelven los conflictos.</translation>
+    </message>
+    <message>
+        <source>Every step can be undone and redone.</source>
+        <translation>Cada paso se puede deshacer y rehacer.</translation>
+    </message>
+    <message>
+        <source>The dictionary is saved.</source>
+        <translation>Se guarda el diccionario.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>No se puede crear la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied to %2.</source>
+        <translation>No se puede copiar %1 a %2.</translation>
+    </message>
+    <message>
+        <source>The tour ended early, at “%1”.</source>
+        <translation>El recorrido terminó antes de tiempo, en «%1».</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) in %1</source>
+        <translation>
+            <numerusform>%n imagen en %1</numerusform>
+            <numerusform>%n imágenes en %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The picture cannot be written to %1.</source>
+        <translation>No se puede escribir la imagen en %1.</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>No se sabe</translation>
+    </message>
+</context>
+<context>
     <name>UtilForms</name>
     <message>
         <source>Error</source>
@@ -2527,6 +3078,17 @@
     <message>
         <source>Information</source>
         <translation>Información</translation>
+    </message>
+</context>
+<context>
+    <name>ValueLabelTarget</name>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +3395,128 @@ Keep it as RefCode?</source>
     <message>
         <source>No variable matches the filter.</source>
         <translation>Ninguna variable coincide con el filtro.</translation>
+    </message>
+    <message>
+        <source>Variables: %L1</source>
+        <translation>Variables: %L1</translation>
+    </message>
+    <message>
+        <source>Variables: %L1 of %L2</source>
+        <translation>Variables: %L1 de %L2</translation>
+    </message>
+</context>
+<context>
+    <name>VariableWriter</name>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>true</source>
+        <translation>verdadero</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>false</source>
+        <translation>falso</translation>
+    </message>
+    <message>
+        <source>It was stored as &quot;%1&quot;.</source>
+        <translation>Se guardó como «%1».</translation>
+    </message>
+    <message>
+        <source>A variable needs a name.</source>
+        <translation>Una variable necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>This is no whole number.</source>
+        <translation>No es un número entero.</translation>
+    </message>
+    <message>
+        <source>This is neither yes nor no.</source>
+        <translation>No es ni sí ni no.</translation>
+    </message>
+</context>
+<context>
+    <name>VariablesPage</name>
+    <message>
+        <source>Take all variables, those that are a&amp;dded later too</source>
+        <translation>Tomar todas las variables, también las que se añadan &amp;después</translation>
+    </message>
+    <message>
+        <source>Filter variables</source>
+        <translation>Filtrar variables</translation>
+    </message>
+    <message>
+        <source>Filter the variables</source>
+        <translation>Filtrar las variables</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Tick the variables that take part, entity by entity. Space switches the ticks of the selected rows.</source>
+        <translation>Marque las variables que participan, entidad por entidad. La barra espaciadora cambia las marcas de las filas seleccionadas.</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>División</translation>
+    </message>
+    <message>
+        <source>Tick what tells the records apart when they are split: reference codes, labels and weights are offered here too.</source>
+        <translation>Marque lo que distingue los registros al dividirlos: aquí se ofrecen también códigos de referencia, etiquetas y ponderaciones.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Descarga</translation>
+    </message>
+    <message>
+        <source>These variables are downloaded. Take away the ticks of those that are not wanted after all.</source>
+        <translation>Se descargan estas variables. Quite las marcas de las que al final no se desean.</translation>
+    </message>
+    <message>
+        <source>Entities that take part</source>
+        <translation>Entidades que participan</translation>
+    </message>
+    <message>
+        <source>&amp;Entities</source>
+        <translation>&amp;Entidades</translation>
+    </message>
+    <message>
+        <source>&amp;Variables</source>
+        <translation>&amp;Variables</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter</source>
+        <translation>Fi&amp;ltro</translation>
+    </message>
+    <message>
+        <source>Select &amp;All Shown</source>
+        <translation>Seleccionar t&amp;odas las mostradas</translation>
+    </message>
+    <message>
+        <source>Select N&amp;one Shown</source>
+        <translation>&amp;Quitar las mostradas</translation>
+    </message>
+    <message>
+        <source>No variable matches the filter.</source>
+        <translation>Ninguna variable coincide con el filtro.</translation>
+    </message>
+    <message>
+        <source>Nothing of this entity is downloaded.</source>
+        <translation>No se descarga nada de esta entidad.</translation>
+    </message>
+    <message>
+        <source>This entity has no variables to choose from.</source>
+        <translation>Esta entidad no tiene variables para elegir.</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <translation>%1 (%2 de %3)</translation>
     </message>
     <message>
         <source>Variables: %L1</source>

@@ -48,7 +48,7 @@ ProblemsPanel::ProblemsPanel(QWidget *parent)
     m_severities->addItem(tr("Errors only"), int(Severity::Error));
     m_severities->setAccessibleName(tr("Problems to show"));
     m_severities->view()->setAccessibleName(tr("Problems to show"));
-    auto *caption = new QLabel(tr("S&how:"), this);
+    auto *caption = new QLabel(tr("&Display:"), this);
     caption->setBuddy(m_severities);
 
     Widgets::setUpTable(m_view, tr("Problems"));
