@@ -68,10 +68,6 @@
         <translation>Wiederholen</translation>
     </message>
     <message>
-        <source>&amp;Filter Variables</source>
-        <translation>Variablen &amp;filtern</translation>
-    </message>
-    <message>
         <source>Type into the filter of the variable table</source>
         <translation>In den Filter der Variablentabelle schreiben</translation>
     </message>
@@ -411,6 +407,34 @@
         <source>Change a run configuration that was saved</source>
         <translation>Eine gespeicherte Laufkonfiguration ändern</translation>
     </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Suchen…</translation>
+    </message>
+    <message>
+        <source>Find names, labels and codes in the whole dictionary</source>
+        <translation>Namen, Labels und Codes im ganzen Wörterbuch suchen</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Nächste Fundstelle</translation>
+    </message>
+    <message>
+        <source>Go to the next place that was found</source>
+        <translation>Zur nächsten Fundstelle gehen</translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious</source>
+        <translation>&amp;Vorige Fundstelle</translation>
+    </message>
+    <message>
+        <source>Go to the place that was found before</source>
+        <translation>Zur vorigen Fundstelle gehen</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter Variables</source>
+        <translation>Variablen &amp;filtern</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -554,10 +578,6 @@
     <message>
         <source>Pasting…</source>
         <translation>Es wird eingefügt…</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Paste</source>
@@ -2320,6 +2340,113 @@
     </message>
 </context>
 <context>
+    <name>Find</name>
+    <message>
+        <source>%1, code %2</source>
+        <comment>a variable and one of its codes</comment>
+        <translation>%1, Code %2</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Value label</source>
+        <translation>Wertelabel</translation>
+    </message>
+</context>
+<context>
+    <name>FindPanel</name>
+    <message>
+        <source>Find in the dictionary</source>
+        <translation>Im Wörterbuch suchen</translation>
+    </message>
+    <message>
+        <source>Find in the whole dictionary</source>
+        <translation>Im ganzen Wörterbuch suchen</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Groß-/Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Ganze Wörter</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Gefunden</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Was gefunden wurde</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Namen</translation>
+    </message>
+    <message>
+        <source>Aliases</source>
+        <translation>Aliasse</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Labels</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Value labels</source>
+        <translation>Wertelabels</translation>
+    </message>
+    <message>
+        <source>Find in: %1</source>
+        <translation>Suchen in: %1</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>In</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Type what to find: names, aliases, labels, groups, codes or value labels.</source>
+        <translation>Schreiben Sie, was gesucht wird: Namen, Aliasse, Labels, Gruppen, Codes oder Wertelabels.</translation>
+    </message>
+    <message>
+        <source>Found: %L1</source>
+        <translation>Gefunden: %L1</translation>
+    </message>
+    <message>
+        <source>There is more: only the first %L1 are listed.</source>
+        <translation>Es gibt mehr: Nur die ersten %L1 sind aufgeführt.</translation>
+    </message>
+</context>
+<context>
     <name>FindingsModel</name>
     <message>
         <source>Severity</source>
@@ -2442,6 +2569,10 @@
     <message>
         <source>%1[*] – Quillon Workbench</source>
         <translation>%1[*] – Quillon Workbench</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
     </message>
 </context>
 <context>

@@ -68,10 +68,6 @@
         <translation>Rehacer</translation>
     </message>
     <message>
-        <source>&amp;Filter Variables</source>
-        <translation>&amp;Filtrar variables</translation>
-    </message>
-    <message>
         <source>Type into the filter of the variable table</source>
         <translation>Escribir en el filtro de la tabla de variables</translation>
     </message>
@@ -411,6 +407,34 @@
         <source>Change a run configuration that was saved</source>
         <translation>Cambiar una configuración de ejecución guardada</translation>
     </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Buscar…</translation>
+    </message>
+    <message>
+        <source>Find names, labels and codes in the whole dictionary</source>
+        <translation>Buscar nombres, etiquetas y códigos en todo el diccionario</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Buscar &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Go to the next place that was found</source>
+        <translation>Ir al siguiente lugar encontrado</translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious</source>
+        <translation>Buscar &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Go to the place that was found before</source>
+        <translation>Ir al lugar encontrado anterior</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter Variables</source>
+        <translation>&amp;Filtrar variables</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -554,10 +578,6 @@
     <message>
         <source>Pasting…</source>
         <translation>Pegando…</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Paste</source>
@@ -2320,6 +2340,113 @@
     </message>
 </context>
 <context>
+    <name>Find</name>
+    <message>
+        <source>%1, code %2</source>
+        <comment>a variable and one of its codes</comment>
+        <translation>%1, código %2</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Value label</source>
+        <translation>Etiqueta de valor</translation>
+    </message>
+</context>
+<context>
+    <name>FindPanel</name>
+    <message>
+        <source>Find in the dictionary</source>
+        <translation>Buscar en el diccionario</translation>
+    </message>
+    <message>
+        <source>Find in the whole dictionary</source>
+        <translation>Buscar en todo el diccionario</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Distinguir mayúsculas</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Palabras completas</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Lo encontrado</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Nombres</translation>
+    </message>
+    <message>
+        <source>Aliases</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Value labels</source>
+        <translation>Etiquetas de valor</translation>
+    </message>
+    <message>
+        <source>Find in: %1</source>
+        <translation>Buscar en: %1</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>En</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>No se encontró nada.</translation>
+    </message>
+    <message>
+        <source>Type what to find: names, aliases, labels, groups, codes or value labels.</source>
+        <translation>Escriba lo que busca: nombres, alias, etiquetas, grupos, códigos o etiquetas de valor.</translation>
+    </message>
+    <message>
+        <source>Found: %L1</source>
+        <translation>Encontrados: %L1</translation>
+    </message>
+    <message>
+        <source>There is more: only the first %L1 are listed.</source>
+        <translation>Hay más: solo se muestran los primeros %L1.</translation>
+    </message>
+</context>
+<context>
     <name>FindingsModel</name>
     <message>
         <source>Severity</source>
@@ -2442,6 +2569,10 @@
     <message>
         <source>%1[*] – Quillon Workbench</source>
         <translation>%1[*] – Quillon Workbench</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
     </message>
 </context>
 <context>
