@@ -2812,14 +2812,6 @@
         <translation>Variablen, die %1 nicht hat: %2</translation>
     </message>
     <message>
-        <source>%1 with all variables</source>
-        <translation>%1 mit allen Variablen</translation>
-    </message>
-    <message>
-        <source>%1 with %2 of %3 variables</source>
-        <translation>%1 mit %2 von %3 Variablen</translation>
-    </message>
-    <message>
         <source>The record type is %1.</source>
         <translation>Die Satzart ist %1.</translation>
     </message>
@@ -2890,6 +2882,14 @@
     <message>
         <source>Kept as it is in the file:</source>
         <translation>Bleibt in der Datei, wie es ist:</translation>
+    </message>
+    <message>
+        <source>%1 with all variables.</source>
+        <translation>%1 mit allen Variablen.</translation>
+    </message>
+    <message>
+        <source>%1 with %2 of %3 variables.</source>
+        <translation>%1 mit %2 von %3 Variablen.</translation>
     </message>
 </context>
 <context>

@@ -2812,14 +2812,6 @@
         <translation>Variables que %1 no tiene: %2</translation>
     </message>
     <message>
-        <source>%1 with all variables</source>
-        <translation>%1 con todas las variables</translation>
-    </message>
-    <message>
-        <source>%1 with %2 of %3 variables</source>
-        <translation>%1 con %2 de %3 variables</translation>
-    </message>
-    <message>
         <source>The record type is %1.</source>
         <translation>El tipo de registro es %1.</translation>
     </message>
@@ -2890,6 +2882,14 @@
     <message>
         <source>Kept as it is in the file:</source>
         <translation>Queda en el archivo tal como está:</translation>
+    </message>
+    <message>
+        <source>%1 with all variables.</source>
+        <translation>%1 con todas las variables.</translation>
+    </message>
+    <message>
+        <source>%1 with %2 of %3 variables.</source>
+        <translation>%1 con %2 de %3 variables.</translation>
     </message>
 </context>
 <context>
