@@ -1,8 +1,10 @@
 #include "workbench/Theme.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
+#include <QStyleOption>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,6 +57,27 @@ QPalette paletteOf(const Colours &colours)
     palette.setColor(QPalette::Disabled, QPalette::Highlight, colours.border);
     return palette;
 }
+
+/// Draws a frame around check boxes that can be seen on any ground. The style's own is darker than a window,
+/// and so cannot be told from a dark list.
+class FramedBoxes : public QProxyStyle
+{
+public:
+    FramedBoxes() : QProxyStyle(u"Fusion"_s) { }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override
+    {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck)
+            return;
+        painter->save();
+        painter->setPen(option->palette.color(QPalette::PlaceholderText));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        painter->restore();
+    }
+};
 } // namespace
 
 bool Theme::apply(const QString &name)
@@ -63,7 +86,7 @@ bool Theme::apply(const QString &name)
         return true;
     if (name != "light"_L1 && name != "dark"_L1)
         return false;
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new FramedBoxes);
     QApplication::setPalette(paletteOf(name == "dark"_L1 ? dark : light));
     return true;
 }
