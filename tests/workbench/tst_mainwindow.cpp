@@ -161,11 +161,11 @@ void TestMainWindow::remembersFilesAndLayout()
 {
     const QString path = sample();
     QVERIFY(m_window->files()->open(path));
-    m_window->resize(1000, 650);
+    m_window->resize(1100, 650);
     QVERIFY(m_window->close());
     QCOMPARE(RecentFiles::paths(), QStringList({path}));
     MainWindow next;
-    QCOMPARE(next.size(), QSize(1000, 650));
+    QCOMPARE(next.size(), QSize(1100, 650));
 }
 
 void TestMainWindow::everyControlHasAnAccessibleName()

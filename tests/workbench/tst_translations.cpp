@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
@@ -145,6 +146,8 @@ private Q_SLOTS:
     void translationsFitTheirTexts();
     void mnemonicsAreUnique_data();
     void mnemonicsAreUnique();
+    void formsHaveRoomForTheirTexts_data();
+    void formsHaveRoomForTheirTexts();
     void reachesEveryLayer_data();
     void reachesEveryLayer();
     void anotherLanguageReplacesTheFirst();
@@ -253,6 +256,29 @@ void TestTranslations::mnemonicsAreUnique()
             reached.append(label->text());
     }
     QCOMPARE(clashes(reached).join(u'\n'), QString());
+}
+
+void TestTranslations::formsHaveRoomForTheirTexts_data()
+{
+    addLanguages();
+    QTest::addRow("English") << u"en"_s;
+}
+
+void TestTranslations::formsHaveRoomForTheirTexts()
+{
+    QFETCH(const QString, language);
+    Translations::install(language);
+    MainWindow window;
+    window.document()->edit(u"adding"_s,
+                            [&window] { window.document()->root()->addVariables(makeVariable(u"SEX"_s)); });
+    window.selection()->select(window.document()->root(), window.document()->root()->getVariables()->first());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QList<QScrollArea *> areas = window.findChildren<QScrollArea *>();
+    QVERIFY(areas.size() >= 2);
+    for (const QScrollArea *area : areas)
+        QVERIFY2(area->widget()->width() <= area->viewport()->width(),
+                 area->widget()->metaObject()->className());
 }
 
 void TestTranslations::reachesEveryLayer_data()

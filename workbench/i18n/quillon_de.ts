@@ -1128,11 +1128,11 @@
     </message>
     <message>
         <source>The variable &quot;%1&quot; has the tag %2 too.</source>
-        <translation>Auch die Variable „%1“ hat die Kennziffer %2.</translation>
+        <translation>Auch die Variable „%1“ hat die Nummer %2.</translation>
     </message>
     <message>
         <source>Give each variable a tag of its own.</source>
-        <translation>Geben Sie jeder Variable eine eigene Kennziffer.</translation>
+        <translation>Geben Sie jeder Variable eine eigene Nummer.</translation>
     </message>
     <message>
         <source>The positions %1 to %2 overlap those of &quot;%3&quot;, which end at %4.</source>
@@ -1168,7 +1168,7 @@
     </message>
     <message>
         <source>Two variables of an entity have the same tag</source>
-        <translation>Zwei Variablen einer Entität haben dieselbe Kennziffer</translation>
+        <translation>Zwei Variablen einer Entität haben dieselbe Nummer</translation>
     </message>
     <message>
         <source>Two variables lie on the same positions of a record</source>
@@ -1592,11 +1592,11 @@
     </message>
     <message>
         <source>The tag %1 is not between 0 and %2.</source>
-        <translation>Die Kennziffer %1 liegt nicht zwischen 0 und %2.</translation>
+        <translation>Die Nummer %1 liegt nicht zwischen 0 und %2.</translation>
     </message>
     <message>
         <source>Choose another tag: it would be changed by the next edit.</source>
-        <translation>Wählen Sie eine andere Kennziffer: Die nächste Bearbeitung würde sie ändern.</translation>
+        <translation>Wählen Sie eine andere Nummer: Die nächste Bearbeitung würde sie ändern.</translation>
     </message>
     <message>
         <source>The variable is a lookup, but its entity is not selectable.</source>
@@ -1656,7 +1656,7 @@
     </message>
     <message>
         <source>A tag is out of bounds</source>
-        <translation>Eine Kennziffer liegt außerhalb der Grenzen</translation>
+        <translation>Eine Nummer liegt außerhalb der Grenzen</translation>
     </message>
     <message>
         <source>A lookup stands in an entity that is not selectable</source>
@@ -1807,7 +1807,7 @@
     </message>
     <message>
         <source>tag</source>
-        <translation>Kennziffer</translation>
+        <translation>Nummer</translation>
     </message>
     <message>
         <source>checked</source>
@@ -3253,7 +3253,7 @@
     </message>
     <message>
         <source>Tag</source>
-        <translation>Kennziffer</translation>
+        <translation>Nummer</translation>
     </message>
     <message>
         <source>The value already exists as the alias of a variable.</source>
@@ -3378,7 +3378,7 @@ Soll sie es bleiben?</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation>Kennziffer</translation>
+        <translation>Nummer</translation>
     </message>
     <message>
         <source>Si&amp;ze</source>
@@ -3501,7 +3501,7 @@ Soll sie es bleiben?</translation>
     </message>
     <message>
         <source>Filter variables by name, alias, label, group or tag</source>
-        <translation>Variablen nach Name, Alias, Label, Gruppe oder Kennziffer filtern</translation>
+        <translation>Variablen nach Name, Alias, Label, Gruppe oder Nummer filtern</translation>
     </message>
     <message>
         <source>No variables to show. Add one, or drag fields here from the sources below.</source>

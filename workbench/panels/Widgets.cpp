@@ -3,10 +3,12 @@
 #include "common/IconPaths.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPainter>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QTableView>
@@ -51,6 +53,27 @@ public:
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 6);
     }
 };
+
+/// Scrolls up and down only, and so is never narrower than what it shows: texts are longer in one language
+/// than in another.
+class UpDownArea : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        const int bar = verticalScrollBar()->sizeHint().width();
+        return {widget()->minimumSizeHint().width() + bar, QScrollArea::minimumSizeHint().height()};
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
 } // namespace
 
 QToolButton *Widgets::button(QAction *action, QWidget *parent)
@@ -76,7 +99,7 @@ QLineEdit *Widgets::filterField(const QString &name, const QString &placeholder,
 
 QWidget *Widgets::scrolled(QWidget *form, QWidget *parent)
 {
-    auto *area = new QScrollArea(parent);
+    auto *area = new UpDownArea(parent);
     area->setWidget(form);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
