@@ -2,6 +2,9 @@
 
 #include "model/TDcEntity.h"
 #include "model/TDcVariable.h"
+#include "workbench/dialogs/AreaSelectionDialog.h"
+#include "workbench/dialogs/ExpressionDialog.h"
+#include "workbench/dialogs/ExpressionEdit.h"
 #include "workbench/MainWindow.h"
 #include "workbench/operations/NewNames.h"
 #include "workbench/panels/EntityTreePanel.h"
@@ -10,6 +13,7 @@
 #include "workbench/panels/SourceTab.h"
 #include "workbench/panels/ValueLabelsPanel.h"
 #include "workbench/panels/VariableTablePanel.h"
+#include "workbench/run/RunWizard.h"
 #include "workbench/SourceCommands.h"
 
 #include <QAbstractButton>
@@ -25,7 +29,6 @@
 #include <QTextStream>
 #include <QTimer>
 #include <QTreeView>
-#include <QWizard>
 
 #include <algorithm>
 #include <utility>
@@ -44,6 +47,13 @@ TDcEntity *richest(TDcEntity *entity)
             best = candidate;
     }
     return best;
+}
+
+/// The first file in \a folder that \a pattern fits; empty when there is none.
+QString firstFile(const QDir &folder, const QString &pattern)
+{
+    const QStringList names = folder.entryList({pattern}, QDir::Files, QDir::Name);
+    return names.isEmpty() ? QString() : folder.filePath(names.first());
 }
 
 void settle()
@@ -77,6 +87,11 @@ QList<Tour::Stop> Tour::stops()
          [this] { return importFields(); }},
         {"undo", TEXT("Every step can be undone and redone."), [this] { return showUndo(); }},
         {"save", TEXT("The dictionary is saved."), [this] { return save(); }},
+        {"problems", TEXT("The dictionary is checked."), [this] { return check(); }},
+        {"expression", TEXT("An expression is put together from what the dictionary holds."),
+         [this] { return buildExpression(); }},
+        {"areas", TEXT("Area units are selected."), [this] { return selectAreas(); }},
+        {"run", TEXT("A run configuration is made."), [this] { return makeRun(); }},
     };
 #undef TEXT
 }
@@ -95,8 +110,8 @@ bool Tour::go(const QString &path)
         return false;
     }
     QFile::setPermissions(m_copy, QFile::permissions(m_copy) | QFile::WriteOwner);
-    const QStringList dataFiles = original.dir().entryList({u"*.sav"_s}, QDir::Files, QDir::Name);
-    m_dataFile = dataFiles.isEmpty() ? QString() : original.dir().filePath(dataFiles.first());
+    m_dataFile = firstFile(original.dir(), u"*.sav"_s);
+    m_areas = firstFile(original.dir(), u"areas.csv"_s);
 
     QTextStream out(stdout);
     const QList<Stop> all = stops();
@@ -124,12 +139,10 @@ bool Tour::picture(QWidget *widget)
     return false;
 }
 
-bool Tour::trigger(ActionId id)
+void Tour::trigger(ActionId id)
 {
-    QAction *action = (*m_window->actions())[id];
-    action->trigger();
+    (*m_window->actions())[id]->trigger();
     settle();
-    return action->isEnabled() || !action->isCheckable();
 }
 
 bool Tour::answer(const QString &button, const std::function<void()> &change)
@@ -262,28 +275,71 @@ bool Tour::showUndo()
     return undone && m_window->document()->isModified();
 }
 
-bool Tour::dialog(ActionId action, const QString &name)
+bool Tour::check()
 {
-    trigger(action);
-    auto *dialog = m_window->findChild<QDialog *>(name);
+    trigger(ActionId::ToolsCheck);
+    return picture(m_window);
+}
+
+template <typename Dialog>
+Dialog *Tour::show(ActionId id)
+{
+    trigger(id);
+    return m_window->findChild<Dialog *>();
+}
+
+bool Tour::dismiss(QDialog *dialog)
+{
+    const bool drawn = picture(dialog);
+    delete dialog; // Closing might ask.
+    return drawn;
+}
+
+bool Tour::buildExpression()
+{
+    auto *dialog = show<ExpressionDialog>(ActionId::ToolsExpression);
     if (!dialog)
         return false;
-    bool drawn = picture(dialog);
-    if (auto *wizard = qobject_cast<QWizard *>(dialog)) {
-        while (drawn && wizard->nextId() >= 0) {
-            const int page = wizard->currentId();
-            wizard->next();
-            if (wizard->currentId() == page)
-                break; // It wants something first.
-            drawn = picture(wizard);
-        }
+    const TDcEntity *entity = m_window->selection()->entity();
+    if (const TDcVariable *variable = m_window->selection()->variable())
+        dialog->editor()->setPlainText(entity->getName() + u'.' + variable->getName() + u" > 3 AND ("_s);
+    return dismiss(dialog);
+}
+
+bool Tour::selectAreas()
+{
+    auto *dialog = show<AreaSelectionDialog>(ActionId::ToolsAreas);
+    if (!dialog || (!m_areas.isEmpty() && !dialog->load(m_areas)))
+        return false;
+    QAbstractItemModel *model = dialog->view()->model();
+    const QModelIndex root = model->index(0, 0);
+    for (int row : {1, 3}) {
+        const QModelIndex unit = model->index(row, 0, root);
+        if (unit.isValid() && !model->setData(unit, Qt::Checked, Qt::CheckStateRole))
+            return false;
     }
-    dialog->reject();
-    settle();
-    return drawn;
+    return dismiss(dialog);
+}
+
+bool Tour::makeRun()
+{
+    auto *wizard = show<RunWizard>(ActionId::ToolsNewRun);
+    if (!wizard)
+        return false;
+    // It starts with everything chosen; only a name is wanted.
+    const QList<QLineEdit *> fields = wizard->currentPage()->findChildren<QLineEdit *>(u"name"_s);
+    for (QLineEdit *field : fields)
+        field->setText(tr("First run"));
+    for (int page = -1; wizard->nextId() >= 0 && wizard->currentId() != page; wizard->next()) {
+        page = wizard->currentId();
+        if (!picture(wizard))
+            return false;
+    }
+    return dismiss(wizard);
 }
 
 bool Tour::save()
 {
-    return trigger(ActionId::FileSave) && !m_window->document()->isModified() && picture(m_window);
+    trigger(ActionId::FileSave);
+    return !m_window->document()->isModified() && picture(m_window);
 }

@@ -9,6 +9,7 @@
 #include <functional>
 
 class MainWindow;
+class QDialog;
 class QWidget;
 
 /// Goes through what the workbench can do, as a person would, and leaves a picture of each stop.
@@ -23,7 +24,8 @@ public:
     Tour(MainWindow *window, QString folder);
 
     /// Goes round with a copy of the dictionary at \a path, which stays as it is; the copy is in the folder
-    /// afterwards, changed and saved. A data file (.sav) beside it serves as source. False when something
+    /// afterwards, changed and saved. A data file (.sav) beside it serves as source, and
+    /// areas.csv as area units. False when something
     /// was not as it should be, and errorText() says what.
     [[nodiscard]] bool go(const QString &path);
     [[nodiscard]] QString errorText() const { return m_error; }
@@ -45,10 +47,17 @@ private:
     bool importFields();
     bool showUndo();
     bool save();
-    /// Triggers \a action and pictures the dialog called \a name that opens, page by page if it has some.
-    bool dialog(ActionId action, const QString &name);
+    bool check();
+    bool buildExpression();
+    bool selectAreas();
+    bool makeRun();
 
-    bool trigger(ActionId action);
+    /// The dialog that \a id opens.
+    template <typename Dialog>
+    Dialog *show(ActionId id);
+    /// Takes the picture of \a dialog and closes it.
+    bool dismiss(QDialog *dialog);
+    void trigger(ActionId id);
     /// Does \a change, during which the program asks something; \a button is the answer.
     bool answer(const QString &button, const std::function<void()> &change);
     /// Takes the picture of \a widget.
@@ -57,7 +66,8 @@ private:
     MainWindow *m_window; // Not owned.
     QString m_folder;
     QString m_copy; // Of the dictionary.
-    QString m_dataFile;
+    QString m_dataFile; // Empty for none.
+    QString m_areas; // File of area units; empty for none.
     QString m_error;
     QString m_name; // Of the stop.
     int m_pictures = 0;

@@ -76,8 +76,9 @@ void TestTour::goesRoundTheSample()
         QVERIFY2(!seen.contains(image), qUtf8Printable(name));
         seen.append(image);
     }
-    for (const auto &stop : {u"open"_s, u"rename"_s, u"find"_s, u"edit"_s, u"values"_s, u"source"_s,
-                             u"import"_s, u"undo"_s, u"save"_s})
+    for (const auto &stop :
+         {u"open"_s, u"rename"_s, u"find"_s, u"edit"_s, u"values"_s, u"source"_s, u"import"_s, u"undo"_s,
+          u"save"_s, u"problems"_s, u"expression"_s, u"areas"_s, u"run"_s})
         QVERIFY2(!names.filter(u'-' + stop + u'.').isEmpty(), qUtf8Printable(stop));
 
     // What was done is in the saved copy.
