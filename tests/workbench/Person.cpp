@@ -6,6 +6,10 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QProcess>
 #include <QTest>
 #include <QThread>
@@ -20,6 +24,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 constexpr int patience = 10'000; // Milliseconds; a loaded machine may be slow.
+constexpr int animation = 100; // Milliseconds that a button stays down when a key presses it.
 
 /// What \a look sees in the program, whose thread is another one.
 template <typename Value>
@@ -75,18 +80,32 @@ QAbstractButton *buttonOf(const QWidget *dialog, const QString &name)
 bool Person::does(const std::function<void()> &task)
 {
     m_missed.clear();
-    const std::unique_ptr<QThread> thread(QThread::create(task));
+    const std::unique_ptr<QThread> thread(QThread::create([this, &task] {
+        task();
+        closeDialogs();
+    }));
     thread->start();
     while (!thread->wait(0))
         QTest::qWait(5);
-    // A dialog that is still there would hold up the whole test.
-    while (QWidget *dialog = QApplication::activeModalWidget()) {
-        m_missed += u" Still open: "_s + dialog->windowTitle();
-        delete dialog;
-    }
     if (!m_missed.isEmpty())
         qWarning("%s", qUtf8Printable(m_missed));
     return m_missed.isEmpty();
+}
+
+void Person::closeDialogs()
+{
+    // What asks and waits would hold up the whole test.
+    const auto close = [this]() -> bool {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (!dialog)
+            return false;
+        m_missed += u" Still open: "_s + dialog->windowTitle() + u'.';
+        if (auto *box = qobject_cast<QMessageBox *>(dialog))
+            m_missed += u" It says: "_s + box->text();
+        dialog->hide();
+        return true;
+    };
+    while (see<bool>(close)) { }
 }
 
 void Person::perform(const QStringList &command)
@@ -155,6 +174,54 @@ void Person::clickButton(QWidget *parent, const QString &action)
         m_missed += u" no button "_s + action;
 }
 
+void Person::clickMenu(QMenuBar *bar, const QString &menu, const QString &action)
+{
+    const auto find = [](const QList<QAction *> &actions, const QString &name) {
+        const auto found = std::find_if(actions.cbegin(), actions.cend(), [&name](const QAction *other) {
+            return isCalled(other->text(), name);
+        });
+        return found == actions.cend() ? nullptr : *found;
+    };
+    auto *title = see<QAction *>([bar, &find, &menu] { return find(bar->actions(), menu); });
+    auto *entry = title
+        ? see<QAction *>([title, &find, &action] { return find(title->menu()->actions(), action); })
+        : nullptr;
+    if (!entry) {
+        m_missed += u" no menu entry "_s + action;
+        return;
+    }
+    clickAt([bar, title] { return bar->mapToGlobal(bar->actionGeometry(title).center()); }, 1);
+    waitUntil([title] { return title->menu()->isVisible(); }, "the menu");
+    clickAt(
+        [title, entry] { return title->menu()->mapToGlobal(title->menu()->actionGeometry(entry).center()); },
+        1);
+}
+
+void Person::clickRow(const QString &list, int row)
+{
+    auto *view = see<QAbstractItemView *>([&list]() -> QAbstractItemView * {
+        const auto views = QApplication::activeModalWidget()->findChildren<QAbstractItemView *>(list);
+        const auto shown = std::find_if(views.cbegin(), views.cend(),
+                                        [](const QAbstractItemView *other) { return other->isVisible(); });
+        return shown == views.cend() ? nullptr : *shown;
+    });
+    if (view)
+        click(view, row, 0);
+    else
+        m_missed += u" no list "_s + list;
+}
+
+void Person::clickLastField()
+{
+    clickAt(
+        [] {
+            QList<QLineEdit *> fields = QApplication::activeModalWidget()->findChildren<QLineEdit *>();
+            fields.removeIf([](const QLineEdit *field) { return !field->isVisible(); });
+            return middle(fields.constLast());
+        },
+        1);
+}
+
 void Person::drag(QAbstractItemView *view, int row, QAbstractItemView *target)
 {
     const QPoint from = see<QPoint>([view, row] { return middle(view, view->model()->index(row, 0)); });
@@ -171,13 +238,14 @@ void Person::press(const QStringList &keys)
     for (const QString &key : keys) {
         takeKeyboard();
         perform({u"key"_s, key});
+        QThread::msleep(animation);
     }
 }
 
 void Person::type(const QString &text)
 {
     takeKeyboard();
-    perform({u"type"_s, u"--delay"_s, u"4"_s, text});
+    perform({u"type"_s, u"--delay"_s, u"12"_s, text});
 }
 
 void Person::answer(const QString &button, bool byMouse)

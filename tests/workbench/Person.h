@@ -7,6 +7,7 @@
 #include <functional>
 
 class QAbstractItemView;
+class QMenuBar;
 class QWidget;
 
 /// Somebody at the mouse and the keyboard of an X display.
@@ -24,6 +25,8 @@ public:
     /// Gives the keyboard to \a window. Afterwards it goes to dialogs while they are open, and back again, as
     /// a window manager would have it.
     void lookAt(QWidget *window);
+    /// Gives the keyboard to the dialog that is open, or else to the window.
+    void takeKeyboard();
 
     // The mouse.
     void click(QWidget *widget);
@@ -32,6 +35,12 @@ public:
     void clickCurrent(QAbstractItemView *view, int column, int times);
     /// Clicks the tool button of the action called \a action in \a parent.
     void clickButton(QWidget *parent, const QString &action);
+    /// Opens the menu called \a menu and clicks \a action in it.
+    void clickMenu(QMenuBar *bar, const QString &menu, const QString &action);
+    /// Clicks a row of the list called \a list in the dialog that is open.
+    void clickRow(const QString &list, int row);
+    /// Clicks the lowest line of text in the dialog that is open.
+    void clickLastField();
     /// Drags a row onto the free space of \a target, or onto its middle when there is none.
     void drag(QAbstractItemView *view, int row, QAbstractItemView *target);
 
@@ -48,7 +57,7 @@ public:
 private:
     void perform(const QStringList &command);
     void clickAt(const std::function<QPoint()> &place, int times);
-    void takeKeyboard();
+    void closeDialogs();
 
     QWidget *m_window = nullptr;
     QString m_missed; // What was not there; empty as long as all is well.

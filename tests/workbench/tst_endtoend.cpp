@@ -1,3 +1,5 @@
+#include "documents/RunConfigurationFile.h"
+#include "model/Config.h"
 #include "model/MetadataVariables.h"
 #include "model/ValueLabelElement.h"
 #include "tests/documents/DataFileWriter.h"
@@ -13,11 +15,13 @@
 #include "workbench/panels/SourceTab.h"
 #include "workbench/panels/ValueLabelsPanel.h"
 #include "workbench/panels/VariableTablePanel.h"
+#include "workbench/run/RunWizard.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QTableView>
 #include <QTest>
 #include <QTreeView>
@@ -56,6 +60,8 @@ private Q_SLOTS:
     void resolvesAClash();
     void saves_data() { hands(); }
     void saves();
+    void makesARunConfiguration_data() { hands(); }
+    void makesARunConfiguration();
 
 private:
     static void hands();
@@ -74,6 +80,10 @@ private:
     /// Adds a range or a value label of two cells.
     void addItem(ItemsPanel *panel, const QString &action, const QString &key, const QString &first,
                  const QString &second);
+
+    // In the wizard.
+    void goOn();
+    void takeAll(const QString &button);
 
     std::unique_ptr<IsolatedSettings> m_settings;
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -151,9 +161,17 @@ void TestEndToEnd::retype(const QString &text)
 
 void TestEndToEnd::typeIntoFileDialog(const QString &path)
 {
+    const auto field = [] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        auto *line = dialog ? dialog->findChild<QLineEdit *>(u"fileNameEdit"_s) : nullptr;
+        return line && line->hasFocus() ? line : nullptr;
+    };
     m_person.waitUntil([] { return qobject_cast<QFileDialog *>(QApplication::activeModalWidget()); },
                        "the file dialog");
+    m_person.takeKeyboard();
+    m_person.waitUntil(field, "the file dialog's line");
     m_person.type(path);
+    m_person.waitUntil([field, &path] { return field() && field()->text() == path; }, "the typed path");
     m_person.press({u"Return"_s});
 }
 
@@ -322,6 +340,62 @@ void TestEndToEnd::saves()
     Document saved;
     QVERIFY(saved.open(m_dictionary));
     QVERIFY(Places::findVariable(Places::findEntity(saved.root(), u"PERSON"_s), u"AGE"_s));
+}
+
+void TestEndToEnd::goOn()
+{
+    if (m_mouse)
+        m_person.answer(u"Next >"_s, true);
+    else
+        m_person.press({u"alt+n"_s});
+}
+
+void TestEndToEnd::takeAll(const QString &button)
+{
+    if (m_mouse)
+        m_person.answer(button, true);
+    else
+        m_person.press({u"alt+a"_s});
+}
+
+void TestEndToEnd::makesARunConfiguration()
+{
+    const QString path = m_folder->filePath(u"people.lsd.json"_s);
+    QVERIFY(m_person.does([this, &path] {
+        if (m_mouse)
+            m_person.clickMenu(m_window->menuBar(), u"Tools"_s, u"New Run Configuration…"_s);
+        else
+            m_person.press({u"ctrl+r"_s});
+        m_person.waitUntil([] { return qobject_cast<RunWizard *>(QApplication::activeModalWidget()); },
+                           "the wizard");
+        m_person.type(u"People"_s);
+        goOn(); // To the entities.
+        takeAll(u"Select All"_s);
+        goOn(); // To the variables of the root, which has none, and of PERSON.
+        if (m_mouse)
+            m_person.clickRow(u"entities"_s, 1);
+        else
+            m_person.press({u"alt+e"_s, u"Down"_s});
+        takeAll(u"Select All Shown"_s);
+        goOn(); // To splitting,
+        goOn(); // downloading,
+        goOn(); // and what it all comes to.
+        if (m_mouse)
+            m_person.clickLastField();
+        else
+            m_person.press({u"alt+a"_s});
+        m_person.press({u"ctrl+a"_s});
+        m_person.type(path);
+        if (m_mouse)
+            m_person.answer(u"Save"_s, true);
+        else
+            m_person.press({u"alt+s"_s});
+        m_person.waitUntil([] { return !QApplication::activeModalWidget(); }, "the end of the wizard");
+    }));
+    RunConfigurationFile run;
+    QVERIFY2(run.open(path), qUtf8Printable(run.errorText()));
+    QCOMPARE(run.config()->getDataBase()->getName(), u"People"_s);
+    QVERIFY(!m_window->isWindowModified());
 }
 
 QTEST_MAIN(TestEndToEnd)
