@@ -3199,6 +3199,26 @@
         <source>Not known</source>
         <translation>Nicht bekannt</translation>
     </message>
+    <message>
+        <source>The dictionary is checked.</source>
+        <translation>Das Wörterbuch wird geprüft.</translation>
+    </message>
+    <message>
+        <source>An expression is put together from what the dictionary holds.</source>
+        <translation>Ein Ausdruck wird aus dem Inhalt des Wörterbuchs zusammengesetzt.</translation>
+    </message>
+    <message>
+        <source>Area units are selected.</source>
+        <translation>Gebietseinheiten werden ausgewählt.</translation>
+    </message>
+    <message>
+        <source>A run configuration is made.</source>
+        <translation>Eine Laufkonfiguration wird erstellt.</translation>
+    </message>
+    <message>
+        <source>First run</source>
+        <translation>Erster Lauf</translation>
+    </message>
 </context>
 <context>
     <name>UtilForms</name>

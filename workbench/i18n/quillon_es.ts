@@ -3199,6 +3199,26 @@
         <source>Not known</source>
         <translation>No se sabe</translation>
     </message>
+    <message>
+        <source>The dictionary is checked.</source>
+        <translation>Se comprueba el diccionario.</translation>
+    </message>
+    <message>
+        <source>An expression is put together from what the dictionary holds.</source>
+        <translation>Se compone una expresión con lo que contiene el diccionario.</translation>
+    </message>
+    <message>
+        <source>Area units are selected.</source>
+        <translation>Se seleccionan unidades de área.</translation>
+    </message>
+    <message>
+        <source>A run configuration is made.</source>
+        <translation>Se hace una configuración de ejecución.</translation>
+    </message>
+    <message>
+        <source>First run</source>
+        <translation>Primera ejecución</translation>
+    </message>
 </context>
 <context>
     <name>UtilForms</name>
