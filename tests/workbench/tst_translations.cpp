@@ -5,6 +5,8 @@
 #include "workbench/MainWindow.h"
 #include "workbench/Translations.h"
 
+#include <QAbstractButton>
+#include <QDialog>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
@@ -14,7 +16,9 @@
 #include <QScrollArea>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 #include <QTranslator>
+#include <QWizardPage>
 #include <QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
@@ -123,6 +127,30 @@ QStringList clashes(const QStringList &texts)
     return found;
 }
 
+/// What Alt reaches in \a window: labels of fields, and buttons. Of pages that take turns, those of \a page.
+QStringList texts(const QWidget &window, const QWidget *page = nullptr)
+{
+    const auto shown = [&window, page](const QWidget *widget) {
+        for (const QWidget *above = widget; above && above != &window; above = above->parentWidget()) {
+            if (qobject_cast<const QWizardPage *>(above))
+                return above == page;
+        }
+        return !widget->isHidden();
+    };
+    QStringList result;
+    const QList<QLabel *> labels = window.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->buddy() && shown(label))
+            result.append(label->text());
+    }
+    const QList<QAbstractButton *> buttons = window.findChildren<QAbstractButton *>();
+    for (const QAbstractButton *button : buttons) {
+        if (!qobject_cast<const QToolButton *>(button) && shown(button))
+            result.append(button->text());
+    }
+    return result;
+}
+
 QStringList texts(const QList<QAction *> &actions)
 {
     QStringList result;
@@ -146,6 +174,8 @@ private Q_SLOTS:
     void translationsFitTheirTexts();
     void mnemonicsAreUnique_data();
     void mnemonicsAreUnique();
+    void mnemonicsOfDialogsAreUnique_data();
+    void mnemonicsOfDialogsAreUnique();
     void formsHaveRoomForTheirTexts_data();
     void formsHaveRoomForTheirTexts();
     void reachesEveryLayer_data();
@@ -248,14 +278,38 @@ void TestTranslations::mnemonicsAreUnique()
     window.show();
     for (const QAction *action : window.menuBar()->actions())
         QCOMPARE(clashes(texts(action->menu()->actions())).join(u'\n'), QString());
-    // Alt with a letter reaches labels as well as menus.
-    QStringList reached = texts(window.menuBar()->actions());
-    const QList<QLabel *> labels = window.findChildren<QLabel *>();
-    for (const QLabel *label : labels) {
-        if (label->buddy())
-            reached.append(label->text());
+    QCOMPARE(clashes(texts(window.menuBar()->actions()) + texts(window)).join(u'\n'), QString());
+}
+
+void TestTranslations::mnemonicsOfDialogsAreUnique_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<ActionId>("opens");
+    for (const char *language : {"de", "en", "es"}) {
+        const auto add = [language](const char *name, ActionId opens) {
+            QTest::addRow("%s, %s", name, language) << QString::fromLatin1(language) << opens;
+        };
+        add("expression", ActionId::ToolsExpression);
+        add("areas", ActionId::ToolsAreas);
+        add("run configuration", ActionId::ToolsNewRun);
     }
-    QCOMPARE(clashes(reached).join(u'\n'), QString());
+}
+
+void TestTranslations::mnemonicsOfDialogsAreUnique()
+{
+    QFETCH(const QString, language);
+    QFETCH(const ActionId, opens);
+    Translations::install(language);
+    MainWindow window;
+    window.show();
+    (*window.actions())[opens]->trigger();
+    const auto *dialog = window.findChild<QDialog *>();
+    QVERIFY(dialog);
+    QList<QWizardPage *> pages = dialog->findChildren<QWizardPage *>();
+    if (pages.isEmpty())
+        pages.append(nullptr); // It has no pages that take turns.
+    for (const QWizardPage *page : std::as_const(pages))
+        QCOMPARE(clashes(texts(*dialog, page)).join(u'\n'), QString());
 }
 
 void TestTranslations::formsHaveRoomForTheirTexts_data()
