@@ -3,7 +3,10 @@
 #include "workbench/CheckCommands.h"
 #include "workbench/ClipboardCommands.h"
 #include "workbench/dialogs/AreaSelectionDialog.h"
+#include "workbench/dialogs/CopyValuesDialog.h"
+#include "workbench/dialogs/EditTogetherDialog.h"
 #include "workbench/dialogs/ExpressionDialog.h"
+#include "workbench/dialogs/LabelSetsDialog.h"
 #include "workbench/FileCommands.h"
 #include "workbench/panels/EntityForm.h"
 #include "workbench/panels/EntityTreePanel.h"
@@ -52,6 +55,9 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_selection(&m_do
     addPanels();
     ExpressionDialog::addTo({&m_document, &m_selection, &m_actions, this});
     AreaSelectionDialog::addTo({&m_document, &m_selection, &m_actions, this});
+    EditTogetherDialog::addTo({&m_document, &m_selection, &m_actions, this});
+    CopyValuesDialog::addTo({&m_document, &m_selection, &m_actions, this});
+    LabelSetsDialog::addTo({&m_document, &m_selection, &m_actions, this});
     addUndo();
     addAbout();
     connect(m_actions[ActionId::FileQuit], &QAction::triggered, this, &QWidget::close);

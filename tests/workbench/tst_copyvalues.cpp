@@ -1,0 +1,199 @@
+#include "documents/DictionaryCopy.h"
+#include "documents/DictionaryEquality.h"
+#include "model/MetadataVariables.h"
+#include "model/ValueLabelElement.h"
+#include "tests/workbench/Bench.h"
+#include "workbench/dialogs/CopyValuesDialog.h"
+#include "workbench/operations/ValueCopies.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTest>
+#include <QUndoStack>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestCopyValues : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void replaces();
+    void adds();
+    void copiesOnlyWhatIsWanted();
+    void leavesTheSourceAlone();
+    void tellsWhatWillChange();
+    void makesNoLayoutForNothing();
+    void ticksTheSelectedVariables();
+    void ticksWhatTheFilterShows();
+    void copiesInOneStep();
+
+private:
+    [[nodiscard]] static QString values(const TDcVariable &variable);
+    [[nodiscard]] TDcVariable &variable(const QString &name) { return *m_bench->variable(name); }
+    [[nodiscard]] QPushButton *button(const QDialog &dialog, const QString &text) const;
+
+    std::unique_ptr<Bench> m_bench;
+};
+
+namespace
+{
+void addLabel(TDcVariable &variable, const QString &code, const QString &label)
+{
+    variable.addValueLabelElement(new ValueLabelElement);
+    variable.getValueLabelElementList()->last()->setValue(code);
+    variable.getValueLabelElementList()->last()->setLabel(label);
+}
+
+void addRange(TDcVariable &variable, double minimum, double maximum)
+{
+    if (!variable.getMetadataVariables())
+        variable.setMetadataVariables(new MetadataVariables);
+    variable.getMetadataVariables()->addItemRange(new Range);
+    variable.getMetadataVariables()->getRange()->last()->setRangeMin(minimum);
+    variable.getMetadataVariables()->getRange()->last()->setRangeMax(maximum);
+}
+} // namespace
+
+void TestCopyValues::init()
+{
+    m_bench = std::make_unique<Bench>();
+    m_bench->selection.select(u"PERSON/SEX"_s);
+    addLabel(variable(u"SEX"_s), u"1"_s, u"Man"_s);
+    addLabel(variable(u"SEX"_s), u"2"_s, u"Woman"_s);
+    addRange(variable(u"SEX"_s), 1, 2);
+    variable(u"SEX"_s).setMissing(9);
+    variable(u"SEX"_s).setNotappl(8);
+    addLabel(variable(u"AGE"_s), u"1"_s, u"One"_s);
+    addRange(variable(u"AGE"_s), 0, 99);
+    m_bench->document.commit();
+    m_bench->document.undoStack()->clear();
+}
+
+QString TestCopyValues::values(const TDcVariable &variable)
+{
+    QStringList words;
+    for (const ValueLabelElement *element : std::as_const(*variable.getValueLabelElementList()))
+        words.append(element->getValue() + u'=' + element->getLabel());
+    if (const MetadataVariables *layout = variable.getMetadataVariables()) {
+        for (const Range *range : std::as_const(*layout->getRange()))
+            words.append(u"%1..%2"_s.arg(range->getRangeMin()).arg(range->getRangeMax()));
+    }
+    words.append(QString::number(variable.getMissing()));
+    return words.join(u' ');
+}
+
+QPushButton *TestCopyValues::button(const QDialog &dialog, const QString &text) const
+{
+    const auto buttons = dialog.findChildren<QPushButton *>();
+    const auto found = std::find_if(buttons.cbegin(), buttons.cend(),
+                                    [&text](const QPushButton *each) { return each->text() == text; });
+    return found == buttons.cend() ? nullptr : *found;
+}
+
+void TestCopyValues::replaces()
+{
+    ValueCopies::apply(variable(u"SEX"_s), {&variable(u"AGE"_s), &variable(u"WAGE"_s)}, {});
+    QCOMPARE(values(variable(u"AGE"_s)), u"1=Man 2=Woman 1..2 0"_s);
+    QCOMPARE(values(variable(u"WAGE"_s)), u"1=Man 2=Woman 1..2 0"_s);
+}
+
+void TestCopyValues::adds()
+{
+    const ValueCopies::What what{.missing = true, .replace = false};
+    ValueCopies::apply(variable(u"SEX"_s), {&variable(u"AGE"_s)}, what);
+    QCOMPARE(values(variable(u"AGE"_s)), u"1=One 2=Woman 0..99 1..2 9"_s);
+    ValueCopies::apply(variable(u"SEX"_s), {&variable(u"AGE"_s)}, what);
+    QCOMPARE(values(variable(u"AGE"_s)), u"1=One 2=Woman 0..99 1..2 9"_s);
+}
+
+void TestCopyValues::copiesOnlyWhatIsWanted()
+{
+    ValueCopies::apply(variable(u"SEX"_s), {&variable(u"AGE"_s)},
+                       {.valueLabels = false, .ranges = false, .missing = true});
+    QCOMPARE(values(variable(u"AGE"_s)), u"1=One 0..99 9"_s);
+    QCOMPARE(variable(u"AGE"_s).getNotappl(), 8);
+    ValueCopies::apply(variable(u"SEX"_s), {&variable(u"WAGE"_s)}, {.valueLabels = true, .ranges = false});
+    QCOMPARE(values(variable(u"WAGE"_s)), u"1=Man 2=Woman 0"_s);
+}
+
+void TestCopyValues::leavesTheSourceAlone()
+{
+    ValueCopies::apply(variable(u"SEX"_s), {&variable(u"SEX"_s)}, {});
+    QCOMPARE(values(variable(u"SEX"_s)), u"1=Man 2=Woman 1..2 9"_s);
+}
+
+void TestCopyValues::tellsWhatWillChange()
+{
+    const TDcVariable &sex = variable(u"SEX"_s);
+    const QList<TDcVariable *> all = *m_bench->selection.entity()->getVariables();
+    QCOMPARE(ValueCopies::preview(sex, all, {}),
+             u"2 variables will change. Variables whose value labels will be replaced: 1. "
+             "Variables whose ranges will be replaced: 1."_s);
+    QCOMPARE(ValueCopies::preview(sex, {&variable(u"AGE"_s)}, {.replace = false}),
+             u"One variable will change."_s);
+    ValueCopies::apply(sex, all, {});
+    QCOMPARE(ValueCopies::preview(sex, all, {}), u"Nothing will change."_s);
+}
+
+void TestCopyValues::makesNoLayoutForNothing()
+{
+    ValueCopies::apply(variable(u"WAGE"_s), {&variable(u"WAGE"_s)}, {});
+    TDcVariable other;
+    for (const bool replace : {true, false})
+        ValueCopies::apply(variable(u"WAGE"_s), {&other}, {.replace = replace});
+    QVERIFY(!other.getMetadataVariables());
+}
+
+void TestCopyValues::ticksTheSelectedVariables()
+{
+    const QList<TDcVariable *> two{&variable(u"SEX"_s), &variable(u"WAGE"_s)};
+    m_bench->selection.setVariables(two, two.first());
+    const CopyValuesDialog dialog(m_bench->workspace());
+    const auto *model = dialog.findChild<QStandardItemModel *>();
+    QCOMPARE(model->rowCount(), 2); // Not the source.
+    QCOMPARE(model->item(0)->text(), u"AGE"_s);
+    QCOMPARE(model->item(0)->checkState(), Qt::Unchecked);
+    QCOMPARE(model->item(1)->checkState(), Qt::Checked);
+    QCOMPARE(dialog.findChild<QLabel *>(u"copyValuesPreview"_s)->text(), u"One variable will change."_s);
+}
+
+void TestCopyValues::ticksWhatTheFilterShows()
+{
+    const CopyValuesDialog dialog(m_bench->workspace());
+    const auto *preview = dialog.findChild<QLabel *>(u"copyValuesPreview"_s);
+    QCOMPARE(preview->text(), u"Tick the variables to copy to."_s);
+    QVERIFY(!button(dialog, u"&Copy"_s)->isEnabled());
+    dialog.findChild<QLineEdit *>()->setText(u"monthly"_s);
+    button(dialog, u"&Tick Shown"_s)->click();
+    QVERIFY(button(dialog, u"&Copy"_s)->isEnabled());
+    QCOMPARE(preview->text(), u"One variable will change."_s);
+    dialog.findChild<QLineEdit *>()->clear();
+    const auto *model = dialog.findChild<QStandardItemModel *>();
+    QCOMPARE(model->item(0)->checkState(), Qt::Unchecked);
+    QCOMPARE(model->item(1)->checkState(), Qt::Checked);
+    button(dialog, u"&Untick Shown"_s)->click();
+    QVERIFY(!button(dialog, u"&Copy"_s)->isEnabled());
+}
+
+void TestCopyValues::copiesInOneStep()
+{
+    const auto before = DictionaryCopy::copy(*m_bench->document.root());
+    CopyValuesDialog dialog(m_bench->workspace());
+    button(dialog, u"&Tick Shown"_s)->click();
+    button(dialog, u"&Copy"_s)->click();
+    QCOMPARE(values(variable(u"AGE"_s)), u"1=Man 2=Woman 1..2 0"_s);
+    QUndoStack *stack = m_bench->document.undoStack();
+    QCOMPARE(stack->count(), 1);
+    QCOMPARE(stack->undoText(), u"copying values of SEX to 2 variables"_s);
+    stack->undo();
+    QVERIFY(DictionaryEquality::equal(*m_bench->document.root(), *before));
+}
+
+QTEST_MAIN(TestCopyValues)
+#include "tst_copyvalues.moc"
