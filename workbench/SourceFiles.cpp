@@ -35,7 +35,7 @@ QString SourceFiles::choose(QWidget *window, const QString &title, const QString
     const QString filter =
         Texts::tr("Data files (*.%1)").arg(suffixes.join(u" *."_s)) + u";;"_s + Texts::tr("All files (*)");
     const QString folder = QSettings().value(folderKey(), QDir::homePath()).toString();
-    const QString path = QFileDialog::getOpenFileName(window, title, folder, filter);
+    QString path = QFileDialog::getOpenFileName(window, title, folder, filter);
     if (!path.isEmpty())
         QSettings().setValue(folderKey(), QFileInfo(path).absolutePath());
     return path;
