@@ -435,6 +435,30 @@
         <source>Fi&amp;lter Variables</source>
         <translation>Variablen &amp;filtern</translation>
     </message>
+    <message>
+        <source>&amp;Edit Variables Together…</source>
+        <translation>Variablen gemeinsam &amp;bearbeiten…</translation>
+    </message>
+    <message>
+        <source>Edit properties of all selected variables at once</source>
+        <translation>Eigenschaften aller ausgewählten Variablen auf einmal bearbeiten</translation>
+    </message>
+    <message>
+        <source>Copy Values &amp;To…</source>
+        <translation>Werte ko&amp;pieren nach…</translation>
+    </message>
+    <message>
+        <source>Copy value labels, ranges and missing codes to other variables</source>
+        <translation>Wertelabels, Bereiche und Codes für fehlende Werte auf andere Variablen kopieren</translation>
+    </message>
+    <message>
+        <source>Identical Label &amp;Sets…</source>
+        <translation>Gleiche Label&amp;sätze…</translation>
+    </message>
+    <message>
+        <source>Edit value labels that several variables share</source>
+        <translation>Wertelabels bearbeiten, die mehrere Variablen gemeinsam haben</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -839,6 +863,97 @@
     <message>
         <source>The tour needs a dictionary to go through.</source>
         <translation>Der Rundgang braucht ein Wörterbuch, das er zeigt.</translation>
+    </message>
+</context>
+<context>
+    <name>CommonEdits</name>
+    <message>
+        <source>%1 and %L2 more</source>
+        <translation>%1 und %L2 weitere</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>a property, variables, why it was refused</comment>
+        <translation>%1 von %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>CopyValuesDialog</name>
+    <message>
+        <source>Copy Values of %1</source>
+        <translation>Werte von %1 kopieren</translation>
+    </message>
+    <message>
+        <source>What will change</source>
+        <translation>Was sich ändert</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Value &amp;labels</source>
+        <translation>Werte&amp;labels</translation>
+    </message>
+    <message>
+        <source>&amp;Ranges</source>
+        <translation>&amp;Bereiche</translation>
+    </message>
+    <message>
+        <source>&amp;Missing-value and not-applicable codes</source>
+        <translation>&amp;Codes für fehlende Werte und für nicht zutreffend</translation>
+    </message>
+    <message>
+        <source>Re&amp;place the labels and ranges that are there</source>
+        <translation>Vorhandene Labels und Bereiche &amp;ersetzen</translation>
+    </message>
+    <message>
+        <source>A&amp;dd what is not there yet</source>
+        <translation>&amp;Fehlendes hinzufügen</translation>
+    </message>
+    <message>
+        <source>Filter variables</source>
+        <translation>Variablen filtern</translation>
+    </message>
+    <message>
+        <source>Filter by name, label or entity</source>
+        <translation>Nach Name, Label oder Entität filtern</translation>
+    </message>
+    <message>
+        <source>No other variable matches the filter.</source>
+        <translation>Keine andere Variable passt zum Filter.</translation>
+    </message>
+    <message>
+        <source>Variables to copy to</source>
+        <translation>Variablen, auf die kopiert wird</translation>
+    </message>
+    <message>
+        <source>&amp;Tick Shown</source>
+        <translation>Gezeigte &amp;ankreuzen</translation>
+    </message>
+    <message>
+        <source>&amp;Untick Shown</source>
+        <translation>Gezeigte &amp;nicht ankreuzen</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entität</translation>
+    </message>
+    <message>
+        <source>Tick the variables to copy to.</source>
+        <translation>Kreuzen Sie die Variablen an, auf die kopiert wird.</translation>
+    </message>
+    <message>
+        <source>copying values of %1 to %L2 variables</source>
+        <translation>Kopieren der Werte von %1 auf %L2 Variablen</translation>
     </message>
 </context>
 <context>
@@ -1947,6 +2062,41 @@
     </message>
 </context>
 <context>
+    <name>EditTogetherDialog</name>
+    <message>
+        <source>Edit Variables Together</source>
+        <translation>Variablen gemeinsam bearbeiten</translation>
+    </message>
+    <message>
+        <source>%L1 variables are selected. What is ticked is written to all of them; the rest stays as it is.</source>
+        <translation>%L1 Variablen sind ausgewählt. Was angekreuzt ist, wird in alle geschrieben; der Rest bleibt, wie er ist.</translation>
+    </message>
+    <message>
+        <source>&amp;Write to All</source>
+        <translation>In alle &amp;schreiben</translation>
+    </message>
+    <message>
+        <source>Write %1</source>
+        <translation>%1 schreiben</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>mehrere Werte</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>edit of %L1 variables</source>
+        <translation>Bearbeiten von %L1 Variablen</translation>
+    </message>
+    <message>
+        <source>Not everything could be written:</source>
+        <translation>Nicht alles konnte geschrieben werden:</translation>
+    </message>
+</context>
+<context>
     <name>EntitiesPage</name>
     <message>
         <source>Check the se&amp;quence of its records</source>
@@ -2383,7 +2533,7 @@
     </message>
     <message>
         <source>Match case</source>
-        <translation>Groß-/Kleinschreibung beachten</translation>
+        <translation>Groß/klein beachten</translation>
     </message>
     <message>
         <source>Whole words</source>
@@ -2491,6 +2641,78 @@
         <source>%1 of %2</source>
         <comment>an action and a variable</comment>
         <translation>%1 bei %2</translation>
+    </message>
+</context>
+<context>
+    <name>LabelSetsDialog</name>
+    <message>
+        <source>Identical Label Sets</source>
+        <translation>Gleiche Labelsätze</translation>
+    </message>
+    <message>
+        <source>Change All</source>
+        <translation>Alle ändern</translation>
+    </message>
+    <message>
+        <source>No two variables have the same value labels.</source>
+        <translation>Keine zwei Variablen haben dieselben Wertelabels.</translation>
+    </message>
+    <message>
+        <source>Identical label sets</source>
+        <translation>Gleiche Labelsätze</translation>
+    </message>
+    <message>
+        <source>&amp;Sets that variables share</source>
+        <translation>&amp;Sätze, die Variablen gemeinsam haben</translation>
+    </message>
+    <message>
+        <source>No value labels.</source>
+        <translation>Keine Wertelabels.</translation>
+    </message>
+    <message>
+        <source>Labels of the set</source>
+        <translation>Labels des Satzes</translation>
+    </message>
+    <message>
+        <source>&amp;Labels of the set</source>
+        <translation>&amp;Labels des Satzes</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>Variables that have the set</source>
+        <translation>Variablen, die den Satz haben</translation>
+    </message>
+    <message>
+        <source>%1 (variables: %L2)</source>
+        <comment>labels, and how many have them</comment>
+        <translation>%1 (Variablen: %L2)</translation>
+    </message>
+    <message>
+        <source>&amp;Change All</source>
+        <translation>Alle ä&amp;ndern</translation>
+    </message>
+    <message>
+        <source>&amp;Change in %L1 Variables</source>
+        <translation>In %L1 Variablen ä&amp;ndern</translation>
+    </message>
+    <message>
+        <source>value labels of %L1 variables</source>
+        <translation>Wertelabels von %L1 Variablen</translation>
     </message>
 </context>
 <context>
@@ -3229,6 +3451,29 @@
     <message>
         <source>Information</source>
         <translation>Information</translation>
+    </message>
+</context>
+<context>
+    <name>ValueCopies</name>
+    <message>
+        <source>Nothing will change.</source>
+        <translation>Es ändert sich nichts.</translation>
+    </message>
+    <message>
+        <source>One variable will change.</source>
+        <translation>Eine Variable ändert sich.</translation>
+    </message>
+    <message>
+        <source>%L1 variables will change.</source>
+        <translation>%L1 Variablen ändern sich.</translation>
+    </message>
+    <message>
+        <source>Variables whose value labels will be replaced: %L1.</source>
+        <translation>Variablen, deren Wertelabels ersetzt werden: %L1.</translation>
+    </message>
+    <message>
+        <source>Variables whose ranges will be replaced: %L1.</source>
+        <translation>Variablen, deren Bereiche ersetzt werden: %L1.</translation>
     </message>
 </context>
 <context>

@@ -435,6 +435,30 @@
         <source>Fi&amp;lter Variables</source>
         <translation>&amp;Filtrar variables</translation>
     </message>
+    <message>
+        <source>&amp;Edit Variables Together…</source>
+        <translation>Editar variables &amp;juntas…</translation>
+    </message>
+    <message>
+        <source>Edit properties of all selected variables at once</source>
+        <translation>Editar a la vez propiedades de todas las variables seleccionadas</translation>
+    </message>
+    <message>
+        <source>Copy Values &amp;To…</source>
+        <translation>C&amp;opiar valores a…</translation>
+    </message>
+    <message>
+        <source>Copy value labels, ranges and missing codes to other variables</source>
+        <translation>Copiar etiquetas de valor, rangos y códigos de valor perdido a otras variables</translation>
+    </message>
+    <message>
+        <source>Identical Label &amp;Sets…</source>
+        <translation>Conjuntos de etiquetas &amp;iguales…</translation>
+    </message>
+    <message>
+        <source>Edit value labels that several variables share</source>
+        <translation>Editar etiquetas de valor que comparten varias variables</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -839,6 +863,97 @@
     <message>
         <source>The tour needs a dictionary to go through.</source>
         <translation>El recorrido necesita un diccionario que mostrar.</translation>
+    </message>
+</context>
+<context>
+    <name>CommonEdits</name>
+    <message>
+        <source>%1 and %L2 more</source>
+        <translation>%1 y %L2 más</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <comment>a property, variables, why it was refused</comment>
+        <translation>%1 de %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>CopyValuesDialog</name>
+    <message>
+        <source>Copy Values of %1</source>
+        <translation>Copiar valores de %1</translation>
+    </message>
+    <message>
+        <source>What will change</source>
+        <translation>Lo que cambiará</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Value &amp;labels</source>
+        <translation>&amp;Etiquetas de valor</translation>
+    </message>
+    <message>
+        <source>&amp;Ranges</source>
+        <translation>&amp;Rangos</translation>
+    </message>
+    <message>
+        <source>&amp;Missing-value and not-applicable codes</source>
+        <translation>Códigos de valor per&amp;dido y de no aplicable</translation>
+    </message>
+    <message>
+        <source>Re&amp;place the labels and ranges that are there</source>
+        <translation>Reem&amp;plazar las etiquetas y los rangos que hay</translation>
+    </message>
+    <message>
+        <source>A&amp;dd what is not there yet</source>
+        <translation>&amp;Añadir lo que falta</translation>
+    </message>
+    <message>
+        <source>Filter variables</source>
+        <translation>Filtrar variables</translation>
+    </message>
+    <message>
+        <source>Filter by name, label or entity</source>
+        <translation>Filtrar por nombre, etiqueta o entidad</translation>
+    </message>
+    <message>
+        <source>No other variable matches the filter.</source>
+        <translation>Ninguna otra variable coincide con el filtro.</translation>
+    </message>
+    <message>
+        <source>Variables to copy to</source>
+        <translation>Variables a las que se copia</translation>
+    </message>
+    <message>
+        <source>&amp;Tick Shown</source>
+        <translation>&amp;Marcar las mostradas</translation>
+    </message>
+    <message>
+        <source>&amp;Untick Shown</source>
+        <translation>&amp;Quitar marca a las mostradas</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Tick the variables to copy to.</source>
+        <translation>Marque las variables a las que se copia.</translation>
+    </message>
+    <message>
+        <source>copying values of %1 to %L2 variables</source>
+        <translation>copiar valores de %1 a %L2 variables</translation>
     </message>
 </context>
 <context>
@@ -1947,6 +2062,41 @@
     </message>
 </context>
 <context>
+    <name>EditTogetherDialog</name>
+    <message>
+        <source>Edit Variables Together</source>
+        <translation>Editar variables juntas</translation>
+    </message>
+    <message>
+        <source>%L1 variables are selected. What is ticked is written to all of them; the rest stays as it is.</source>
+        <translation>Hay %L1 variables seleccionadas. Lo marcado se escribe en todas; lo demás queda como está.</translation>
+    </message>
+    <message>
+        <source>&amp;Write to All</source>
+        <translation>&amp;Escribir en todas</translation>
+    </message>
+    <message>
+        <source>Write %1</source>
+        <translation>Escribir %1</translation>
+    </message>
+    <message>
+        <source>several values</source>
+        <translation>varios valores</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>edit of %L1 variables</source>
+        <translation>edición de %L1 variables</translation>
+    </message>
+    <message>
+        <source>Not everything could be written:</source>
+        <translation>No se pudo escribir todo:</translation>
+    </message>
+</context>
+<context>
     <name>EntitiesPage</name>
     <message>
         <source>Check the se&amp;quence of its records</source>
@@ -2491,6 +2641,78 @@
         <source>%1 of %2</source>
         <comment>an action and a variable</comment>
         <translation>%1 en %2</translation>
+    </message>
+</context>
+<context>
+    <name>LabelSetsDialog</name>
+    <message>
+        <source>Identical Label Sets</source>
+        <translation>Conjuntos de etiquetas iguales</translation>
+    </message>
+    <message>
+        <source>Change All</source>
+        <translation>Cambiar todo</translation>
+    </message>
+    <message>
+        <source>No two variables have the same value labels.</source>
+        <translation>No hay dos variables con las mismas etiquetas de valor.</translation>
+    </message>
+    <message>
+        <source>Identical label sets</source>
+        <translation>Conjuntos de etiquetas iguales</translation>
+    </message>
+    <message>
+        <source>&amp;Sets that variables share</source>
+        <translation>&amp;Conjuntos que comparten variables</translation>
+    </message>
+    <message>
+        <source>No value labels.</source>
+        <translation>Sin etiquetas de valor.</translation>
+    </message>
+    <message>
+        <source>Labels of the set</source>
+        <translation>Etiquetas del conjunto</translation>
+    </message>
+    <message>
+        <source>&amp;Labels of the set</source>
+        <translation>&amp;Etiquetas del conjunto</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Añadir</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>Variables that have the set</source>
+        <translation>Variables que tienen el conjunto</translation>
+    </message>
+    <message>
+        <source>%1 (variables: %L2)</source>
+        <comment>labels, and how many have them</comment>
+        <translation>%1 (variables: %L2)</translation>
+    </message>
+    <message>
+        <source>&amp;Change All</source>
+        <translation>Cambiar &amp;todo</translation>
+    </message>
+    <message>
+        <source>&amp;Change in %L1 Variables</source>
+        <translation>Cambiar en %L1 &amp;variables</translation>
+    </message>
+    <message>
+        <source>value labels of %L1 variables</source>
+        <translation>etiquetas de valor de %L1 variables</translation>
     </message>
 </context>
 <context>
@@ -3229,6 +3451,29 @@
     <message>
         <source>Information</source>
         <translation>Información</translation>
+    </message>
+</context>
+<context>
+    <name>ValueCopies</name>
+    <message>
+        <source>Nothing will change.</source>
+        <translation>No cambiará nada.</translation>
+    </message>
+    <message>
+        <source>One variable will change.</source>
+        <translation>Cambiará una variable.</translation>
+    </message>
+    <message>
+        <source>%L1 variables will change.</source>
+        <translation>Cambiarán %L1 variables.</translation>
+    </message>
+    <message>
+        <source>Variables whose value labels will be replaced: %L1.</source>
+        <translation>Variables cuyas etiquetas de valor se reemplazarán: %L1.</translation>
+    </message>
+    <message>
+        <source>Variables whose ranges will be replaced: %L1.</source>
+        <translation>Variables cuyos rangos se reemplazarán: %L1.</translation>
     </message>
 </context>
 <context>
