@@ -96,6 +96,7 @@ bool CheckRun::State::step()
         const Checks::Variable variable{*entity, item, TypeWord(item.getVarType())};
         Checks::apply(Checks::variableRules(), variable, findings);
         Checks::apply(Checks::valueRules(), variable, findings);
+        Checks::apply(Checks::categoryRules(), variable, findings);
         ++done;
         return true;
     }

@@ -49,6 +49,7 @@ QList<CheckRule> DictionaryCheck::rules()
     appendRules(Checks::entityNameRules(), rules);
     appendRules(Checks::variableRules(), rules);
     appendRules(Checks::valueRules(), rules);
+    appendRules(Checks::categoryRules(), rules);
     return rules;
 }
 

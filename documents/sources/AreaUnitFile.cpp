@@ -57,18 +57,96 @@ QList<qsizetype> ring(qsizetype start, const QList<qsizetype> &parents, QList<in
     std::rotate(rows.begin(), std::min_element(rows.begin(), rows.end()), rows.end());
     return rows;
 }
+/// The units of a file on their way from rows to trees.
+class Units
+{
+    Q_DECLARE_TR_FUNCTIONS(AreaUnitFile)
+
+public:
+    Units(const QString &path, SourceAreaUnits &result) : m_path(path), m_result(result) { }
+
+    void add(const CsvColumns &columns, const CsvRow &row)
+    {
+        auto unit = makeUnit(columns, row.cells);
+        const QString code = unit->getCode();
+        if (code.isEmpty()) {
+            report(row.line, tr("The code is empty."));
+        } else if (m_byCode.contains(code)) {
+            report(row.line,
+                   tr("The code \"%1\" stands in line %2 too.")
+                       .arg(code)
+                       .arg(m_rows[size_t(m_byCode.value(code))].line));
+        } else {
+            m_byCode.insert(code, qsizetype(m_rows.size()));
+            m_rows.push_back({std::move(unit), columns.cell(row.cells, Parent), row.line});
+        }
+    }
+
+    void findParents()
+    {
+        for (const Row &row : m_rows) {
+            m_parents.append(row.parent.isEmpty() ? -1 : m_byCode.value(row.parent, -1));
+            if (!row.parent.isEmpty() && m_parents.last() < 0)
+                report(row.line,
+                       tr("The parent \"%1\" of \"%2\" is not in the file.")
+                           .arg(row.parent, row.unit->getCode()));
+        }
+    }
+
+    void reportRings()
+    {
+        QList<int> seen(m_parents.size(), 0);
+        for (qsizetype start = 0; start < m_parents.size(); ++start) {
+            const QList<qsizetype> members = ring(start, m_parents, seen, int(start) + 1);
+            if (members.isEmpty())
+                continue;
+            QStringList codes;
+            for (const qsizetype member : members)
+                codes.append(m_rows[size_t(member)].unit->getCode());
+            codes.append(codes.first());
+            report(m_rows[size_t(members.first())].line,
+                   tr("The unit lies below itself: %1.").arg(codes.join(u" < "_s)));
+        }
+    }
+
+    /// Hangs each unit below its parent. Only for what no problem has been reported of.
+    void build()
+    {
+        std::vector<SelectionTreeUnit *> units(m_rows.size());
+        std::transform(m_rows.cbegin(), m_rows.cend(), units.begin(),
+                       [](const Row &row) { return row.unit.get(); });
+        for (size_t i = 0; i < m_rows.size(); ++i) {
+            const qsizetype parent = m_parents.at(qsizetype(i));
+            auto *list = parent < 0 ? m_result.list() : units[size_t(parent)]->getChildren();
+            list->append(m_rows[i].unit.release());
+        }
+        for (SelectionTreeUnit *root : std::as_const(*m_result.list())) {
+            preOrder(root, [](SelectionTreeUnit *unit) {
+                for (SelectionTreeUnit *child : std::as_const(*unit->getChildren()))
+                    child->setLevel(unit->getLevel() + 1);
+            });
+        }
+    }
+
+private:
+    void report(qint64 line, const QString &problem)
+    {
+        m_result.errors.append({m_path, CsvTable::place(line), problem});
+    }
+
+    const QString &m_path;
+    SourceAreaUnits &m_result;
+    std::vector<Row> m_rows;
+    QHash<QString, qsizetype> m_byCode;
+    QList<qsizetype> m_parents; // Of each row; -1 for none.
+};
 } // namespace
 
 SourceAreaUnits AreaUnitFile::read(const QString &path, const SourceOptions &options)
 {
     SourceAreaUnits result;
     CsvColumns columns({u"code"_s, u"parent"_s, u"name"_s, u"area1"_s, u"area2"_s, u"area"_s});
-    std::vector<Row> rows;
-    QHash<QString, qsizetype> byCode;
-    const auto report = [&](qint64 line, const QString &problem) {
-        result.errors.append({path, CsvTable::place(line), problem});
-    };
-
+    Units units(path, result);
     bool header = options.header;
     CsvTable table(path, options);
     const auto damage = table.read([&](const CsvRow &row) {
@@ -76,19 +154,7 @@ SourceAreaUnits AreaUnitFile::read(const QString &path, const SourceOptions &opt
             columns.setHeader(row.cells);
             return columns.has(Code) ? QString() : tr("No column is called \"code\".");
         }
-        auto unit = makeUnit(columns, row.cells);
-        const QString code = unit->getCode();
-        if (code.isEmpty()) {
-            report(row.line, tr("The code is empty."));
-        } else if (byCode.contains(code)) {
-            report(row.line,
-                   tr("The code \"%1\" stands in line %2 too.")
-                       .arg(code)
-                       .arg(rows[size_t(byCode.value(code))].line));
-        } else {
-            byCode.insert(code, qsizetype(rows.size()));
-            rows.push_back({std::move(unit), columns.cell(row.cells, Parent), row.line});
-        }
+        units.add(columns, row);
         return QString();
     });
     result.cancelled = table.cancelled();
@@ -97,41 +163,9 @@ SourceAreaUnits AreaUnitFile::read(const QString &path, const SourceOptions &opt
     if (damage || result.cancelled)
         return result;
 
-    QList<qsizetype> parents;
-    for (const Row &row : rows) {
-        parents.append(row.parent.isEmpty() ? -1 : byCode.value(row.parent, -1));
-        if (!row.parent.isEmpty() && parents.last() < 0)
-            report(
-                row.line,
-                tr("The parent \"%1\" of \"%2\" is not in the file.").arg(row.parent, row.unit->getCode()));
-    }
-    QList<int> seen(parents.size(), 0);
-    for (qsizetype start = 0; start < parents.size(); ++start) {
-        const QList<qsizetype> members = ring(start, parents, seen, int(start) + 1);
-        if (members.isEmpty())
-            continue;
-        QStringList codes;
-        for (const qsizetype member : members)
-            codes.append(rows[size_t(member)].unit->getCode());
-        codes.append(codes.first());
-        report(rows[size_t(members.first())].line,
-               tr("The unit lies below itself: %1.").arg(codes.join(u" < "_s)));
-    }
-    if (!result.ok())
-        return result;
-
-    std::vector<SelectionTreeUnit *> units(rows.size());
-    std::transform(rows.cbegin(), rows.cend(), units.begin(), [](const Row &row) { return row.unit.get(); });
-    for (size_t i = 0; i < rows.size(); ++i) {
-        const qsizetype parent = parents.at(qsizetype(i));
-        auto *list = parent < 0 ? result.list() : units[size_t(parent)]->getChildren();
-        list->append(rows[i].unit.release());
-    }
-    for (SelectionTreeUnit *root : std::as_const(*result.list())) {
-        preOrder(root, [](SelectionTreeUnit *unit) {
-            for (SelectionTreeUnit *child : std::as_const(*unit->getChildren()))
-                child->setLevel(unit->getLevel() + 1);
-        });
-    }
+    units.findParents();
+    units.reportRings();
+    if (result.ok())
+        units.build();
     return result;
 }

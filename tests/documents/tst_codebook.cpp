@@ -83,6 +83,7 @@ private Q_SLOTS:
     void headingsAndScopesAreProper();
     void saysWhatIsInTheDictionary();
     void leavesOutWhatIsNotThere();
+    void anEmptyEntitySaysSo();
     void takesTitleAndLanguage();
     void nullsAreNoTrouble();
     void aDeepChainIsNoTrouble();
@@ -208,6 +209,17 @@ void tst_Codebook::leavesOutWhatIsNotThere()
     for (const auto text : {"Missing"_L1, "Valid range"_L1, "Categories"_L1, "<p class=\"text\">"_L1,
                             "Decimals"_L1, "class=\"role\""_L1})
         QVERIFY2(!html.contains(text), text.data());
+}
+
+void tst_Codebook::anEmptyEntitySaysSo()
+{
+    const auto root = std::make_unique<TDcEntity>();
+    root->setName(u"EMPTY"_s);
+    const QString html = body(root.get());
+    QVERIFY(html.contains("<p class=\"extent\">This entity has no variables.</p>"_L1));
+    QVERIFY(html.contains("\">EMPTY</h2>"_L1)); // Its name stands there once.
+    QVERIFY(!page(make().get()).contains("no variables"_L1));
+    QVERIFY(page(make().get()).contains(" <code>PERSON</code></h2>"_L1));
 }
 
 void tst_Codebook::takesTitleAndLanguage()

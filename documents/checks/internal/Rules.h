@@ -11,7 +11,7 @@
 #include <deque>
 #include <span>
 
-/// The rules, and what they look at. A rule is one function in one of the three tables.
+/// The rules, and what they look at. A rule is one function in one of the tables.
 namespace Checks
 {
 struct EntityNode {
@@ -109,6 +109,7 @@ void apply(std::span<const Rule<Subject>> rules, const Subject &subject, QList<F
 [[nodiscard]] std::span<const Rule<Entity>> entityNameRules();
 [[nodiscard]] std::span<const Rule<Variable>> variableRules();
 [[nodiscard]] std::span<const Rule<Variable>> valueRules();
+[[nodiscard]] std::span<const Rule<Variable>> categoryRules();
 
 /// Calls \a clash with every item whose key an earlier item has, and that earlier item. Empty keys never
 /// clash.

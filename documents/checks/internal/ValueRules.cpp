@@ -1,59 +1,18 @@
-#include "documents/checks/internal/Rules.h"
-#include "model/MetadataVariables.h"
-#include "model/ValueLabelElement.h"
+#include "documents/checks/internal/Values.h"
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
-// Rules about the values that a variable may take: its ranges, its categories and its missing codes.
+// Rules about the ranges of a variable and about its missing codes.
 namespace Checks
 {
 namespace
 {
-QString number(double value)
-{
-    return QString::number(value, 'g', 15);
-}
-
-/// The ranges of a variable, without nulls. A lookup's values come from its table: what is left of a range
-/// has no meaning.
-QList<Range *> ranges(const Variable &subject)
-{
-    const MetadataVariables *metadata = subject.variable.getMetadataVariables();
-    QList<Range *> found;
-    if (metadata && !metadata->getLookup())
-        found = *metadata->getRange();
-    found.removeAll(nullptr);
-    return found;
-}
-
-QList<ValueLabelElement *> labels(const Variable &subject)
-{
-    QList<ValueLabelElement *> found = *subject.variable.getValueLabelElementList();
-    found.removeAll(nullptr);
-    return found;
-}
-
 QString rangeText(const Range &range)
 {
     return DictionaryCheck::tr("%1 to %2").arg(number(range.getRangeMin()), number(range.getRangeMax()));
-}
-
-bool contains(const QList<Range *> &list, double value)
-{
-    return std::any_of(list.cbegin(), list.cend(), [value](const Range *range) {
-        return range->getRangeMin() <= value && value <= range->getRangeMax();
-    });
-}
-
-std::optional<double> numericCode(const ValueLabelElement &element)
-{
-    bool ok = false;
-    const double value = element.getValue().trimmed().toDouble(&ok);
-    return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
 void rangesAscend(const Variable &subject, Report &report)
@@ -148,110 +107,6 @@ void codesDiffer(const Variable &subject, Report &report)
                    DictionaryCheck::tr("Give them different codes."));
 }
 
-void labelsAreInside(const Variable &subject, Report &report)
-{
-    const QList<Range *> list = ranges(subject);
-    if (list.isEmpty() || subject.type.isText())
-        return;
-    for (ValueLabelElement *element : labels(subject)) {
-        const auto code = numericCode(*element);
-        const bool special =
-            code && (*code == subject.variable.getMissing() || *code == subject.variable.getNotappl());
-        if (code && !special && !contains(list, *code))
-            report.add(subject, *element,
-                       DictionaryCheck::tr("The category %1 \"%2\" lies outside the ranges.")
-                           .arg(number(*code), element->getLabel()),
-                       DictionaryCheck::tr("Widen a range, or remove the category."));
-    }
-}
-
-void categoriesHaveDifferentCodes(const Variable &subject, Report &report)
-{
-    forEachRepeated(
-        labels(subject),
-        [&subject](const ValueLabelElement *element) {
-            const auto code = subject.type.isText() ? std::nullopt : numericCode(*element);
-            return code ? number(*code) : element->getValue().trimmed();
-        },
-        [&](ValueLabelElement *element, const ValueLabelElement *first) {
-            report.add(subject, *element,
-                       DictionaryCheck::tr("The code %1 stands for \"%2\" and for \"%3\".")
-                           .arg(element->getValue(), first->getLabel(), element->getLabel()),
-                       DictionaryCheck::tr("Keep one of the two."));
-        });
-}
-
-void numbersHaveNumericCodes(const Variable &subject, Report &report)
-{
-    if (!subject.type.isNumber())
-        return;
-    for (ValueLabelElement *element : labels(subject)) {
-        if (element->getValue().trimmed().isEmpty())
-            continue;
-        const auto code = numericCode(*element);
-        const bool fits = code && (!subject.type.isInteger() || std::trunc(*code) == *code);
-        if (!fits)
-            report.add(subject, *element,
-                       (subject.type.isInteger() ? DictionaryCheck::tr("The code \"%1\" is no whole number.")
-                                                 : DictionaryCheck::tr("The code \"%1\" is no number."))
-                           .arg(element->getValue()),
-                       DictionaryCheck::tr("Correct the code: documents would keep a number in its place."));
-    }
-}
-
-void categoriesHaveCodes(const Variable &subject, Report &report)
-{
-    for (ValueLabelElement *element : labels(subject)) {
-        if (element->getValue().trimmed().isEmpty())
-            report.add(subject, *element,
-                       DictionaryCheck::tr("The category \"%1\" has no code.").arg(element->getLabel()),
-                       DictionaryCheck::tr("Give it a code or remove it."));
-    }
-}
-
-void categoriesHaveLabels(const Variable &subject, Report &report)
-{
-    for (ValueLabelElement *element : labels(subject)) {
-        if (!element->getValue().trimmed().isEmpty() && element->getLabel().trimmed().isEmpty())
-            report.add(subject, *element,
-                       DictionaryCheck::tr("The code %1 has no label.").arg(element->getValue()),
-                       DictionaryCheck::tr("Say what it stands for."));
-    }
-}
-
-void labelsDiffer(const Variable &subject, Report &report)
-{
-    forEachRepeated(
-        labels(subject), [](const ValueLabelElement *element) { return folded(element->getLabel()); },
-        [&](ValueLabelElement *element, const ValueLabelElement *first) {
-            if (element->getValue().trimmed() != first->getValue().trimmed())
-                report.add(subject, *element,
-                           DictionaryCheck::tr("The codes %1 and %2 have the same label, \"%3\".")
-                               .arg(first->getValue(), element->getValue(), element->getLabel()),
-                           DictionaryCheck::tr("Say how they differ."));
-        });
-}
-
-/// Positions that a value has in its record: 0 when not known.
-int width(const Variable &subject)
-{
-    const int length = subject.variable.getFieldSize();
-    return length <= 0 && subject.type.isText() ? subject.variable.getSize() : length;
-}
-
-void codesFit(const Variable &subject, Report &report)
-{
-    const int positions = width(subject);
-    for (ValueLabelElement *element : labels(subject)) {
-        if (positions > 0 && element->getValue().trimmed().size() > positions)
-            report.add(subject, *element,
-                       DictionaryCheck::tr("The code %1 has more than %2 characters.")
-                           .arg(element->getValue())
-                           .arg(positions),
-                       DictionaryCheck::tr("Shorten the code or widen the variable."));
-    }
-}
-
 void rangesFit(const Variable &subject, Report &report)
 {
     const int positions = width(subject);
@@ -291,21 +146,6 @@ constexpr Rule<Variable> rules[] = {
      zeroIsNoValue},
     {"missing-is-not-applicable"_L1, Severity::Warning,
      QT_TRANSLATE_NOOP("DictionaryCheck", "Missing and not applicable have the same code"), codesDiffer},
-    {"label-outside-ranges"_L1, Severity::Warning,
-     QT_TRANSLATE_NOOP("DictionaryCheck", "A category lies outside the ranges"), labelsAreInside},
-    {"code-duplicate"_L1, Severity::Error,
-     QT_TRANSLATE_NOOP("DictionaryCheck", "Two categories have the same code"), categoriesHaveDifferentCodes},
-    {"code-not-numeric"_L1, Severity::Error,
-     QT_TRANSLATE_NOOP("DictionaryCheck", "A number's category has a code that is no such number"),
-     numbersHaveNumericCodes},
-    {"code-missing"_L1, Severity::Error, QT_TRANSLATE_NOOP("DictionaryCheck", "A category has no code"),
-     categoriesHaveCodes},
-    {"code-too-wide"_L1, Severity::Warning,
-     QT_TRANSLATE_NOOP("DictionaryCheck", "A code does not fit into the field"), codesFit},
-    {"label-missing"_L1, Severity::Warning, QT_TRANSLATE_NOOP("DictionaryCheck", "A code has no label"),
-     categoriesHaveLabels},
-    {"label-duplicate"_L1, Severity::Note,
-     QT_TRANSLATE_NOOP("DictionaryCheck", "Two codes have the same label"), labelsDiffer},
 };
 } // namespace
 

@@ -75,6 +75,11 @@ QString CodebookContent::heading(const TDcEntity &entity)
     return entity.getLabel().trimmed().isEmpty() ? entity.getName() : entity.getLabel();
 }
 
+QString CodebookContent::nameBesideHeading(const TDcEntity &entity)
+{
+    return heading(entity) == entity.getName() ? QString() : entity.getName();
+}
+
 QList<CodebookContent::Fact> CodebookContent::facts(const Chapter &chapter)
 {
     const TDcEntity &entity = *chapter.entity;

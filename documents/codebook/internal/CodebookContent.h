@@ -38,6 +38,10 @@ public:
 
     /// The label of \a entity or, where there is none, its name.
     [[nodiscard]] static QString heading(const TDcEntity &entity);
+    /// The name of \a entity where the heading does not tell it.
+    [[nodiscard]] static QString nameBesideHeading(const TDcEntity &entity);
+    /// What stands in the place of the variables where there are none.
+    [[nodiscard]] static QString nothing() { return tr("This entity has no variables."); }
     [[nodiscard]] static QList<Fact> facts(const Chapter &chapter);
     [[nodiscard]] static QList<Fact> facts(const TDcVariable &variable);
     [[nodiscard]] static QString typeName(const TDcVariable &variable);

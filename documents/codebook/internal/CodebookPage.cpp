@@ -74,8 +74,10 @@ void CodebookPage::writeChapter(const CodebookContent::Chapter &chapter, qsizety
 {
     const QString id = QString::number(number);
     m_html += "<section id=\"e"_L1 + id + "\" aria-labelledby=\"h"_L1 + id + "\">\n<h2 id=\"h"_L1 + id
-        + "\">"_L1 + htmlText(CodebookContent::heading(*chapter.entity)) + " <code>"_L1
-        + htmlText(chapter.entity->getName()) + "</code></h2>\n"_L1;
+        + "\">"_L1 + htmlText(CodebookContent::heading(*chapter.entity));
+    if (const QString name = CodebookContent::nameBesideHeading(*chapter.entity); !name.isEmpty())
+        m_html += " <code>"_L1 + htmlText(name) + "</code>"_L1;
+    m_html += "</h2>\n"_L1;
     writeDocumentation(chapter.entity->getDocumentationEntity());
     writeFacts(CodebookContent::facts(chapter));
     writeOverview(chapter, id);
@@ -87,8 +89,10 @@ void CodebookPage::writeChapter(const CodebookContent::Chapter &chapter, qsizety
 
 void CodebookPage::writeOverview(const CodebookContent::Chapter &chapter, const QString &id)
 {
-    if (chapter.variables.isEmpty())
+    if (chapter.variables.isEmpty()) {
+        m_html += "<p class=\"extent\">"_L1 + htmlText(CodebookContent::nothing()) + "</p>\n"_L1;
         return;
+    }
     m_html += "<div class=\"overview wide\">\n<table>\n<caption>"_L1 + htmlText(tr("Variables"))
         + "</caption>\n"
           "<thead><tr><th scope=\"col\">"_L1

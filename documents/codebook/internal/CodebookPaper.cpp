@@ -47,6 +47,11 @@ QString paragraph(const QString &text)
     return text.trimmed().isEmpty() ? QString() : "<p>"_L1 + text + "</p>"_L1;
 }
 
+QString namedParagraph(const QString &name)
+{
+    return name.isEmpty() ? QString() : "<p class=\"name\">"_L1 + htmlText(name) + "</p>"_L1;
+}
+
 /// Short texts stay in one line.
 QString unbroken(const QString &text)
 {
@@ -94,7 +99,7 @@ QString CodebookPaper::contents(const QList<int> &pages) const
         ++number;
         rows += "<tr><td>"_L1 + QString("&nbsp;&nbsp;&nbsp;&nbsp;"_L1).repeated(chapter.depth)
             + htmlText(CodebookContent::heading(*chapter.entity)) + "</td><td class=\"name\">"_L1
-            + htmlText(chapter.entity->getName()) + "</td><td align=\"right\">"_L1
+            + htmlText(CodebookContent::nameBesideHeading(*chapter.entity)) + "</td><td align=\"right\">"_L1
             + htmlText(tr("Variables: %1").arg(chapter.variables.size())) + "</td><td align=\"right\">"_L1
             + page + "</td></tr>"_L1;
     }
@@ -127,9 +132,11 @@ QString CodebookPaper::chapterText(const CodebookContent::Chapter &chapter, qsiz
 {
     QString text = "<h2 style=\"page-break-before:always\"><a name=\""_L1 + ChapterAnchor
         + QString::number(number) + "\">"_L1 + htmlText(CodebookContent::heading(*chapter.entity))
-        + "</a></h2><p class=\"name\">"_L1 + htmlText(chapter.entity->getName()) + "</p>"_L1
+        + "</a></h2>"_L1 + namedParagraph(CodebookContent::nameBesideHeading(*chapter.entity))
         + paragraph(lines(chapter.entity->getDocumentationEntity()))
         + paragraph(factLine(CodebookContent::facts(chapter)));
+    if (chapter.variables.isEmpty())
+        text += paragraph("<span class=\"soft\">"_L1 + htmlText(CodebookContent::nothing()) + "</span>"_L1);
     for (const TDcVariable *variable : chapter.variables)
         text += variableText(*chapter.entity, *variable);
     return text;

@@ -40,6 +40,8 @@ table{border-collapse:collapse;margin:.6rem 0 1rem;font-size:.92rem}
 caption{text-align:left;font-size:.78rem;color:var(--soft);padding-bottom:.2rem}
 th,td{text-align:left;vertical-align:top;padding:.25rem .9rem .25rem .5rem;border-bottom:1px solid var(--line);unicode-bidi:isolate}
 thead th{background:var(--band);font-size:.8rem}tbody th{font-weight:400;white-space:nowrap}
+.overview tbody th{white-space:normal;min-width:9rem}.overview td:nth-child(3){min-width:9rem}.overview tbody th,.overview td,.codes td{overflow-wrap:anywhere}
+h1,h2,h3{overflow-wrap:anywhere}
 td.number,th.number{text-align:right;font-variant-numeric:tabular-nums}
 .codes th.number{min-width:4rem}
 [hidden]{display:none!important}
