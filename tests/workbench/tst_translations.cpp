@@ -1,4 +1,5 @@
 #include "documents/checks/DictionaryCheck.h"
+#include "model/ValueLabelElement.h"
 #include "models/VariableDiccionaryModel.h"
 #include "tests/workbench/Bench.h"
 #include "tests/workbench/IsolatedSettings.h"
@@ -151,6 +152,23 @@ QStringList texts(const QWidget &window, const QWidget *page = nullptr)
     return result;
 }
 
+/// Gives the dictionary two variables with the same value labels and selects them.
+void addLabelledVariables(MainWindow &window)
+{
+    TDcEntity *root = window.document()->root();
+    window.document()->edit(u"adding"_s, [root] {
+        for (const QString &name : {u"SMOKES"_s, u"DRINKS"_s}) {
+            TDcVariable *variable = makeVariable(name);
+            auto *label = new ValueLabelElement;
+            label->setValue(u"1"_s);
+            label->setLabel(u"Yes"_s);
+            variable->addValueLabelElement(label);
+            root->addVariables(variable);
+        }
+    });
+    window.selection()->setVariables(*root->getVariables(), root->getVariables()->first());
+}
+
 QStringList texts(const QList<QAction *> &actions)
 {
     QStringList result;
@@ -292,6 +310,9 @@ void TestTranslations::mnemonicsOfDialogsAreUnique_data()
         add("expression", ActionId::ToolsExpression);
         add("areas", ActionId::ToolsAreas);
         add("run configuration", ActionId::ToolsNewRun);
+        add("many variables", ActionId::VariableEditTogether);
+        add("copied values", ActionId::ValuesCopyTo);
+        add("label sets", ActionId::ValuesLabelSets);
     }
 }
 
@@ -301,6 +322,7 @@ void TestTranslations::mnemonicsOfDialogsAreUnique()
     QFETCH(const ActionId, opens);
     Translations::install(language);
     MainWindow window;
+    addLabelledVariables(window);
     window.show();
     (*window.actions())[opens]->trigger();
     const auto *dialog = window.findChild<QDialog *>();
@@ -323,9 +345,7 @@ void TestTranslations::formsHaveRoomForTheirTexts()
     QFETCH(const QString, language);
     Translations::install(language);
     MainWindow window;
-    window.document()->edit(u"adding"_s,
-                            [&window] { window.document()->root()->addVariables(makeVariable(u"SEX"_s)); });
-    window.selection()->select(window.document()->root(), window.document()->root()->getVariables()->first());
+    addLabelledVariables(window);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const QList<QScrollArea *> areas = window.findChildren<QScrollArea *>();
