@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QDialog>
+#include <QDirIterator>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
@@ -188,6 +189,7 @@ private Q_SLOTS:
 
     void everyTextIsTranslated_data();
     void everyTextIsTranslated();
+    void noMacroHidesATextFromTheCollector();
     void translationsFitTheirTexts_data();
     void translationsFitTheirTexts();
     void mnemonicsAreUnique_data();
@@ -256,6 +258,27 @@ void TestTranslations::everyTextIsTranslated()
     QCOMPARE(lacking.join(u'\n'), QString());
     // What the sources no longer say is gone from the file too.
     QCOMPARE(kept.size(), current.size());
+}
+
+void TestTranslations::noMacroHidesATextFromTheCollector()
+{
+    QFile collect(QStringLiteral(QUILLON_SOURCE_DIR "/workbench/i18n/collect"));
+    QVERIFY(collect.open(QIODevice::ReadOnly));
+    const QString known = QString::fromUtf8(collect.readAll());
+    static const QRegularExpression pattern(u"#define\\s+(\\w+)\\(.*(NOOP|\\btr)\\("_s);
+    QStringList hiding;
+    for (const char *folder : {"workbench", "documents", "common", "business", "models", "model"}) {
+        QDirIterator sources(QStringLiteral(QUILLON_SOURCE_DIR "/") + QLatin1StringView(folder),
+                             {u"*.cpp"_s, u"*.h"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (sources.hasNext()) {
+            QFile source(sources.next());
+            QVERIFY(source.open(QIODevice::ReadOnly));
+            const auto macro = pattern.match(QString::fromUtf8(source.readAll()));
+            if (macro.hasMatch() && !known.contains(u"+="_s + macro.captured(1)))
+                hiding.append(source.fileName() + u": "_s + macro.captured(1));
+        }
+    }
+    QCOMPARE(hiding.join(u'\n'), QString());
 }
 
 void TestTranslations::translationsFitTheirTexts_data()

@@ -809,6 +809,10 @@
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
     </message>
+    <message>
+        <source>This entity has no variables.</source>
+        <translation>Diese Entität hat keine Variablen.</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3720,6 +3724,89 @@ Soll sie es bleiben?</translation>
     <message>
         <source>N&amp;otes</source>
         <translation>N&amp;otizen</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Dokumentation</translation>
+    </message>
+</context>
+<context>
+    <name>VariableProperties</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Decimals</source>
+        <translation>Dezimalstellen</translation>
+    </message>
+    <message>
+        <source>Missing-value code</source>
+        <translation>Code für fehlende Werte</translation>
+    </message>
+    <message>
+        <source>Not-applicable code</source>
+        <translation>Code für nicht zutreffend</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Field size</source>
+        <translation>Feldgröße</translation>
+    </message>
+    <message>
+        <source>Field position</source>
+        <translation>Feldposition</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Lookup</source>
+        <translation>Nachschlagetabelle</translation>
+    </message>
+    <message>
+        <source>Local</source>
+        <translation>Lokal</translation>
     </message>
     <message>
         <source>Documentation</source>

@@ -809,6 +809,10 @@
         <source>Page %1 of %2</source>
         <translation>Página %1 de %2</translation>
     </message>
+    <message>
+        <source>This entity has no variables.</source>
+        <translation>Esta entidad no tiene variables.</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -3720,6 +3724,89 @@ Keep it as RefCode?</source>
     <message>
         <source>N&amp;otes</source>
         <translation>N&amp;otas</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentación</translation>
+    </message>
+</context>
+<context>
+    <name>VariableProperties</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Decimals</source>
+        <translation>Decimales</translation>
+    </message>
+    <message>
+        <source>Missing-value code</source>
+        <translation>Código de valor perdido</translation>
+    </message>
+    <message>
+        <source>Not-applicable code</source>
+        <translation>Código de no aplicable</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>Field size</source>
+        <translation>Tamaño del campo</translation>
+    </message>
+    <message>
+        <source>Field position</source>
+        <translation>Posición del campo</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nombre de archivo</translation>
+    </message>
+    <message>
+        <source>Lookup</source>
+        <translation>Tabla de consulta</translation>
+    </message>
+    <message>
+        <source>Local</source>
+        <translation>Local</translation>
     </message>
     <message>
         <source>Documentation</source>

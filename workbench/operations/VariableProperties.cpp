@@ -36,7 +36,6 @@ constexpr VariableProperty ofLayout(const char *name, Kind kind)
             }};
 }
 
-#define NAME(text) QT_TRANSLATE_NOOP("VariableProperties", text)
 } // namespace
 
 QString VariableProperty::title() const
@@ -49,26 +48,34 @@ const QList<VariableProperty> &VariableProperties::all()
     using V = TDcVariable;
     using M = MetadataVariables;
     static const QList<VariableProperty> properties{
-        own<&V::getName, &V::setName>(NAME("Name"), Kind::Text, 0),
-        own<&V::getAlias, &V::setAlias>(NAME("Alias"), Kind::Text, 1),
-        own<&V::getLabel, &V::setLabel>(NAME("Label"), Kind::Text, 2),
-        own<&V::getGroup, &V::setGroup>(NAME("Group"), Kind::Text, 3),
-        own<&V::getTag, &V::setTag>(NAME("Tag"), Kind::Number, 4),
-        own<&V::getVarType, &V::setVarType>(NAME("Type"), Kind::TypeWord),
-        own<&V::getSize, &V::setSize>(NAME("Size"), Kind::Number),
-        own<&V::getDecimals, &V::setDecimals>(NAME("Decimals"), Kind::Number),
-        own<&V::getMissing, &V::setMissing>(NAME("Missing-value code"), Kind::Number),
-        own<&V::getNotappl, &V::setNotappl>(NAME("Not-applicable code"), Kind::Number),
-        ofLayout<&M::getRecord, &M::setRecord>(NAME("Record"), Kind::Text),
-        ofLayout<&M::getField, &M::setField>(NAME("Field"), Kind::Text),
-        ofLayout<&M::getStart, &M::setStart>(NAME("Start"), Kind::Number),
-        ofLayout<&M::getLength, &M::setLength>(NAME("Length"), Kind::Number),
-        own<&V::getFieldSize, &V::setFieldSize>(NAME("Field size"), Kind::Number),
-        own<&V::getFieldRelativePosition, &V::setFieldRelativePosition>(NAME("Field position"), Kind::Number),
-        own<&V::getFileName, &V::setFileName>(NAME("File name"), Kind::Text),
-        ofLayout<&M::getLookup, &M::setLookup>(NAME("Lookup"), Kind::Flag),
-        own<&V::getLocal, &V::setLocal>(NAME("Local"), Kind::Flag),
-        own<&V::getDocumentation, &V::setDocumentation>(NAME("Documentation"), Kind::LongText),
+        own<&V::getName, &V::setName>(QT_TRANSLATE_NOOP("VariableProperties", "Name"), Kind::Text, 0),
+        own<&V::getAlias, &V::setAlias>(QT_TRANSLATE_NOOP("VariableProperties", "Alias"), Kind::Text, 1),
+        own<&V::getLabel, &V::setLabel>(QT_TRANSLATE_NOOP("VariableProperties", "Label"), Kind::Text, 2),
+        own<&V::getGroup, &V::setGroup>(QT_TRANSLATE_NOOP("VariableProperties", "Group"), Kind::Text, 3),
+        own<&V::getTag, &V::setTag>(QT_TRANSLATE_NOOP("VariableProperties", "Tag"), Kind::Number, 4),
+        own<&V::getVarType, &V::setVarType>(QT_TRANSLATE_NOOP("VariableProperties", "Type"), Kind::TypeWord),
+        own<&V::getSize, &V::setSize>(QT_TRANSLATE_NOOP("VariableProperties", "Size"), Kind::Number),
+        own<&V::getDecimals, &V::setDecimals>(QT_TRANSLATE_NOOP("VariableProperties", "Decimals"),
+                                              Kind::Number),
+        own<&V::getMissing, &V::setMissing>(QT_TRANSLATE_NOOP("VariableProperties", "Missing-value code"),
+                                            Kind::Number),
+        own<&V::getNotappl, &V::setNotappl>(QT_TRANSLATE_NOOP("VariableProperties", "Not-applicable code"),
+                                            Kind::Number),
+        ofLayout<&M::getRecord, &M::setRecord>(QT_TRANSLATE_NOOP("VariableProperties", "Record"), Kind::Text),
+        ofLayout<&M::getField, &M::setField>(QT_TRANSLATE_NOOP("VariableProperties", "Field"), Kind::Text),
+        ofLayout<&M::getStart, &M::setStart>(QT_TRANSLATE_NOOP("VariableProperties", "Start"), Kind::Number),
+        ofLayout<&M::getLength, &M::setLength>(QT_TRANSLATE_NOOP("VariableProperties", "Length"),
+                                               Kind::Number),
+        own<&V::getFieldSize, &V::setFieldSize>(QT_TRANSLATE_NOOP("VariableProperties", "Field size"),
+                                                Kind::Number),
+        own<&V::getFieldRelativePosition, &V::setFieldRelativePosition>(
+            QT_TRANSLATE_NOOP("VariableProperties", "Field position"), Kind::Number),
+        own<&V::getFileName, &V::setFileName>(QT_TRANSLATE_NOOP("VariableProperties", "File name"),
+                                              Kind::Text),
+        ofLayout<&M::getLookup, &M::setLookup>(QT_TRANSLATE_NOOP("VariableProperties", "Lookup"), Kind::Flag),
+        own<&V::getLocal, &V::setLocal>(QT_TRANSLATE_NOOP("VariableProperties", "Local"), Kind::Flag),
+        own<&V::getDocumentation, &V::setDocumentation>(
+            QT_TRANSLATE_NOOP("VariableProperties", "Documentation"), Kind::LongText),
     };
     return properties;
 }
