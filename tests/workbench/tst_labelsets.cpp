@@ -163,7 +163,7 @@ void TestLabelSets::editsOnceInOneStep()
     QCOMPARE(labels(u"SEX"_s), u"1=Yes 2=Not at all"_s);
     QCOMPARE(labels(u"AGE"_s), u"1=Yes 2=Not at all"_s);
     QVERIFY(dialog.findChild<QListWidget *>()->isEnabled());
-    QCOMPARE(dialog.findChild<QListWidget *>()->item(0)->text(), u"1 Yes, 2 Not at all (variables: 2)"_s);
+    QCOMPARE(dialog.findChild<QListWidget *>()->item(0)->text(), u"2 variables: 1 Yes, 2 Not at all"_s);
     QUndoStack *stack = m_bench->document.undoStack();
     QCOMPARE(stack->count(), 1);
     QCOMPARE(stack->undoText(), u"value labels of 2 variables"_s);

@@ -42,7 +42,7 @@ EditTogetherDialog::EditTogetherDialog(const Workspace &workspace)
 {
     setObjectName(u"editTogetherDialog"_s);
     setWindowTitle(tr("Edit Variables Together"));
-    resize(560, 620);
+    resize(560, 680);
 
     auto *explanation = new QLabel(
         tr("%L1 variables are selected. What is ticked is written to all of them; the rest stays as it is.")

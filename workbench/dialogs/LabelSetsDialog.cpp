@@ -75,6 +75,8 @@ QWidget *LabelSetsDialog::createSets()
     list->setEmptyText(tr("No two variables have the same value labels."));
     m_list = list;
     m_list->setAccessibleName(tr("Identical label sets"));
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setTextElideMode(Qt::ElideRight);
     auto *title = new QLabel(tr("&Sets that variables share"), side);
     title->setBuddy(m_list);
     column->addWidget(title);
@@ -106,8 +108,15 @@ QWidget *LabelSetsDialog::createLabels()
     m_members = new QLabel(side);
     m_members->setObjectName(u"labelSetMembers"_s);
     m_members->setAccessibleName(tr("Variables that have the set"));
+    m_members->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    m_members->setTextFormat(Qt::PlainText);
     m_members->setWordWrap(true);
-    column->addWidget(Widgets::scrolled(m_members, side), 1);
+    auto *membersTitle = new QLabel(tr("Variables that have the set"), side);
+    membersTitle->setContentsMargins(0, 8, 0, 0);
+    column->addWidget(membersTitle);
+    QWidget *members = Widgets::scrolled(m_members, side);
+    members->setFixedHeight(m_members->fontMetrics().lineSpacing() * 5);
+    column->addWidget(members);
     return side;
 }
 
@@ -125,9 +134,8 @@ void LabelSetsDialog::list()
     m_sets = LabelSets::shared(m_workspace.document->root());
     m_list->clear();
     for (const LabelSets::Set &set : std::as_const(m_sets))
-        m_list->addItem(tr("%1 (variables: %L2)", "labels, and how many have them")
-                            .arg(set.text())
-                            .arg(set.members.size()));
+        m_list->addItem(
+            tr("%L1 variables: %2", "how many have these labels").arg(set.members.size()).arg(set.text()));
     m_list->setCurrentRow(m_sets.isEmpty() ? -1 : 0);
     if (m_sets.isEmpty())
         showSet(-1);

@@ -77,9 +77,17 @@ FindPanel::FindPanel(const Workspace &workspace, QWidget *parent)
 QWidget *FindPanel::createBar()
 {
     auto *bar = new QWidget(this);
-    auto *row = new QHBoxLayout(bar);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_field, 1);
+    // Wide as the words may be, the window may be narrower.
+    bar->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto *rows = new QVBoxLayout(bar);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(4);
+    auto *top = new QHBoxLayout;
+    top->addWidget(m_field, 1);
+    top->addWidget(m_summary);
+    rows->addLayout(top);
+    auto *row = new QHBoxLayout;
+    rows->addLayout(row);
     addOption(row, tr("Names"), Find::Names);
     addOption(row, tr("Aliases"), Find::Aliases);
     addOption(row, tr("Labels"), Find::Labels);
@@ -91,8 +99,7 @@ QWidget *FindPanel::createBar()
         connect(option, &QCheckBox::toggled, this, &FindPanel::ask);
         row->addWidget(option);
     }
-    row->addSpacing(12);
-    row->addWidget(m_summary);
+    row->addStretch(1);
     return bar;
 }
 
