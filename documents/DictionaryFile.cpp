@@ -53,6 +53,15 @@ std::unique_ptr<TDcEntity> DictionaryFile::takeRoot()
     return std::exchange(m_root, std::make_unique<TDcEntity>());
 }
 
+std::unique_ptr<DictionaryFile> DictionaryFile::withRoot(std::unique_ptr<TDcEntity> root) const
+{
+    auto file = std::make_unique<DictionaryFile>();
+    file->setRoot(std::move(root));
+    *file->m_frame = *m_frame;
+    file->belongAs(*this);
+    return file;
+}
+
 bool DictionaryFile::load(const QByteArray &bytes)
 {
     const JsonText::Content text = JsonText::read(bytes);

@@ -34,6 +34,10 @@ public:
     /// Gives the root away and leaves an empty one behind.
     [[nodiscard]] std::unique_ptr<TDcEntity> takeRoot();
 
+    /// A file that differs from this one in its \a root alone: it belongs to the same file in the same state,
+    /// and would be saved in the same form. For work on a copy, for instance in another thread.
+    [[nodiscard]] std::unique_ptr<DictionaryFile> withRoot(std::unique_ptr<TDcEntity> root) const;
+
     /// What save() would write.
     [[nodiscard]] QByteArray content() const override;
 

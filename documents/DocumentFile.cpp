@@ -2,6 +2,7 @@
 
 #include "documents/internal/JsonLosses.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,9 +15,10 @@ namespace
 {
 constexpr auto anyoneMayWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
 
-size_t digestOf(const QByteArray &bytes)
+/// The same tomorrow and in another process: unsaved changes are told apart by it.
+QByteArray digestOfBytes(const QByteArray &bytes)
 {
-    return qHashBits(bytes.constData(), size_t(bytes.size()));
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256);
 }
 
 /// The whole content of a regular file; null with \a problem set when it cannot be had.
@@ -57,7 +59,7 @@ bool DocumentFile::fail(Error error, const QString &text)
 void DocumentFile::remember(const QString &path, const QByteArray &bytes)
 {
     m_path = path;
-    m_digest = digestOf(bytes);
+    m_digest = digestOfBytes(bytes);
     m_error = Error::None;
     m_errorText.clear();
 }
@@ -83,6 +85,32 @@ QStringList DocumentFile::lossesOf(const QByteArray &bytes)
     return JsonLosses::of(bytes);
 }
 
+bool DocumentFile::restore(const Unsaved &unsaved)
+{
+    if (!load(unsaved.content))
+        return false;
+    m_path = unsaved.path;
+    m_digest = unsaved.digest;
+    m_losses = unsaved.losses;
+    m_error = Error::None;
+    m_errorText.clear();
+    return true;
+}
+
+void DocumentFile::belongAs(const DocumentFile &other)
+{
+    m_path = other.m_path;
+    m_digest = other.m_digest;
+    m_losses = other.m_losses;
+}
+
+QByteArray DocumentFile::digestOf(const QString &path)
+{
+    QString problem;
+    const QByteArray bytes = contentOf(path, &problem);
+    return bytes.isNull() ? QByteArray() : digestOfBytes(bytes);
+}
+
 bool DocumentFile::isReadOnly() const
 {
     // Some users may write whatever they like; what a file says about itself counts for them as well.
@@ -94,9 +122,9 @@ bool DocumentFile::isChangedByOthers() const
 {
     QString problem;
     const QByteArray bytes =
-        m_digest && QFileInfo::exists(m_path) ? contentOf(m_path, &problem) : QByteArray();
+        !m_digest.isEmpty() && QFileInfo::exists(m_path) ? contentOf(m_path, &problem) : QByteArray();
     // A file that cannot be read any more has been changed as well.
-    return !problem.isEmpty() || (!bytes.isNull() && digestOf(bytes) != *m_digest);
+    return !problem.isEmpty() || (!bytes.isNull() && digestOfBytes(bytes) != m_digest);
 }
 
 bool DocumentFile::save(SaveOptions options)

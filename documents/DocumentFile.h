@@ -8,8 +8,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
-
 /// A document in a file: what opening and saving have in common, whatever the document holds.
 ///
 /// Opening and saving again without an edit gives an equal document; an edit changes what it edits and
@@ -43,6 +41,18 @@ public:
     /// stays as it was.
     [[nodiscard]] bool open(const QString &path);
 
+    /// What a document needs to go on where it was, though it was not saved.
+    struct Unsaved {
+        QByteArray content; ///< As it would be saved.
+        QString path; ///< Of the file; empty when there is none yet.
+        QByteArray digest; ///< As digest() was.
+        QStringList losses; ///< As losses() were.
+    };
+    [[nodiscard]] Unsaved unsaved() const { return {content(), m_path, m_digest, m_losses}; }
+    /// Goes on where \a unsaved was: belongs to its file, which may be gone or changed by others meanwhile,
+    /// and has its content. False when that cannot be read; then all stays as it was.
+    [[nodiscard]] bool restore(const Unsaved &unsaved);
+
     /// Overwrites the file that was opened or saved last. False when that fails or must not be done without
     /// being told to; then the file is as it was.
     [[nodiscard]] bool save(SaveOptions options = {});
@@ -59,6 +69,11 @@ public:
     /// Whether the content of the file is another one than when it was opened or saved last. A file that is
     /// gone has not changed.
     [[nodiscard]] bool isChangedByOthers() const;
+
+    /// Tells what the file held when it was opened or saved last from any other content; empty until then.
+    [[nodiscard]] QByteArray digest() const { return m_digest; }
+    /// The digest() of the file at \a path as it is now; empty when it cannot be read.
+    [[nodiscard]] static QByteArray digestOf(const QString &path);
 
     /// What saving cannot keep of the file as it was opened, one line for each place: keys that an object
     /// has more than once and numbers with more digits than a number has.
@@ -79,6 +94,9 @@ protected:
     /// Whether nobody but the file's owner may read what is saved.
     [[nodiscard]] virtual bool isSecret() const { return false; }
 
+    /// Belongs to the same file as \a other, in the same state.
+    void belongAs(const DocumentFile &other);
+
     /// Notes why an operation fails. False, for the caller to return.
     bool fail(Error error, const QString &text);
 
@@ -87,7 +105,7 @@ private:
     void remember(const QString &path, const QByteArray &bytes);
 
     QString m_path;
-    std::optional<size_t> m_digest; // Of the file's content as it was seen last.
+    QByteArray m_digest; // Empty until there is a file.
     QStringList m_losses;
     Error m_error = Error::None;
     QString m_errorText;

@@ -61,6 +61,13 @@ QList<Actions::Row> Actions::table()
          {},
          TEXT("Re&vert"),
          TEXT("Go back to the dictionary as it was saved")},
+        {FileRecover,
+         MenuId::File,
+         MenuOnly,
+         nullptr,
+         {},
+         TEXT("Re&cover Unsaved Changes…"),
+         TEXT("Look for changes that were not saved before the workbench ended")},
         {FileQuit, MenuId::File, GroupStart, nullptr, "Ctrl+Q", TEXT("&Quit"), TEXT("Leave the workbench")},
 
         {EditUndo, MenuId::Edit, ToolBarGroup, "48px-Undo", QKeySequence::Undo, TEXT("&Undo"), TEXT("Undo")},

@@ -14,6 +14,7 @@ enum class ActionId {
     FileSave,
     FileSaveAs,
     FileRevert,
+    FileRecover,
     FileQuit,
     EditUndo,
     EditRedo,

@@ -1,5 +1,6 @@
 #include "workbench/Document.h"
 
+#include "documents/DictionaryCopy.h"
 #include "model/TDcEntity.h"
 
 #include <QFileInfo>
@@ -34,22 +35,44 @@ QString Document::title() const
 
 void Document::clear()
 {
-    start(newFile());
+    start(newFile(), Access::ReadWrite);
 }
 
-bool Document::open(const QString &path)
+bool Document::open(const QString &path, Access access)
 {
     auto file = std::make_unique<DictionaryFile>();
     if (!succeed(file->open(QFileInfo(path).absoluteFilePath()), *file))
         return false;
-    start(std::move(file));
+    start(std::move(file), access);
     return true;
+}
+
+bool Document::restore(const DocumentFile::Unsaved &unsaved)
+{
+    auto file = std::make_unique<DictionaryFile>();
+    if (!succeed(file->restore(unsaved), *file))
+        return false;
+    start(std::move(file), Access::ReadWrite);
+    m_undoStack.resetClean();
+    return true;
+}
+
+std::unique_ptr<DictionaryFile> Document::snapshot() const
+{
+    return m_file->withRoot(DictionaryCopy::copy(m_history.committed()));
 }
 
 bool Document::save(const QString &path, DocumentFile::SaveOptions options)
 {
+    const auto same = [this, &path] { return QFileInfo(path) == QFileInfo(this->path()); };
+    if (m_access == Access::ReadOnly && same()) {
+        m_error = DocumentFile::Error::ReadOnly;
+        m_errorText = tr("It was opened for reading only. Save it under another name.");
+        return false;
+    }
     if (!succeed(m_file->saveAs(QFileInfo(path).absoluteFilePath(), options), *m_file))
         return false;
+    m_access = Access::ReadWrite;
     m_undoStack.setClean();
     Q_EMIT pathChanged(this->path());
     return true;
@@ -62,12 +85,13 @@ bool Document::succeed(bool done, const DictionaryFile &file)
     return done;
 }
 
-void Document::start(std::unique_ptr<DictionaryFile> file)
+void Document::start(std::unique_ptr<DictionaryFile> file, Access access)
 {
     {
         const QScopedValueRollback changing(m_changing, true);
         Q_EMIT structureAboutToChange();
         m_file = std::move(file);
+        m_access = access;
         m_history.start(*root());
         Q_EMIT structureChanged();
     }

@@ -22,6 +22,9 @@ class Document : public QObject
     Q_OBJECT
 
 public:
+    /// ReadOnly leaves the file alone, whatever its permissions; the dictionary can be saved elsewhere.
+    enum class Access { ReadWrite, ReadOnly };
+
     explicit Document(QObject *parent = nullptr);
     ~Document() override;
     Q_DISABLE_COPY_MOVE(Document)
@@ -40,11 +43,16 @@ public:
     void clear();
     /// Replaces the dictionary by the one in the file at \a path. If that fails, nothing changes, and
     /// errorText() says why.
-    [[nodiscard]] bool open(const QString &path);
+    [[nodiscard]] bool open(const QString &path, Access access = Access::ReadWrite);
+    /// Replaces the dictionary by changes that were never saved. If that fails, nothing changes.
+    [[nodiscard]] bool restore(const DocumentFile::Unsaved &unsaved);
+    /// A copy of the dictionary as it was after the last step, with its file. Nobody else looks at it.
+    [[nodiscard]] std::unique_ptr<DictionaryFile> snapshot() const;
     /// Saves to \a path, which the dictionary then belongs to. The history stays.
     [[nodiscard]] bool save(const QString &path, DocumentFile::SaveOptions options = {});
-    /// Whether nobody may write the file.
-    [[nodiscard]] bool isReadOnly() const { return m_file->isReadOnly(); }
+    [[nodiscard]] Access access() const { return m_access; }
+    /// Whether the file must not be written: it may not, or it was opened for reading only.
+    [[nodiscard]] bool isReadOnly() const { return m_access == Access::ReadOnly || m_file->isReadOnly(); }
     /// What saving cannot keep of the file as it was opened, one line for each place.
     [[nodiscard]] QStringList losses() const { return m_file->losses(); }
     /// Why the last open() or save() failed.
@@ -71,12 +79,13 @@ Q_SIGNALS:
 private:
     [[nodiscard]] std::unique_ptr<DictionaryFile> newFile() const;
     void announce(History::Extent extent, const std::function<void(TDcEntity &root)> &change);
-    void start(std::unique_ptr<DictionaryFile> file);
+    void start(std::unique_ptr<DictionaryFile> file, Access access);
     bool succeed(bool done, const DictionaryFile &file);
 
     std::unique_ptr<DictionaryFile> m_file; // Never null.
     DocumentFile::Error m_error = DocumentFile::Error::None;
     QString m_errorText;
+    Access m_access = Access::ReadWrite;
     bool m_changing = false; // The objects are not in a state to look at.
     QUndoStack m_undoStack;
     History m_history;

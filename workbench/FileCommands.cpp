@@ -2,8 +2,9 @@
 
 #include "common/Constants.h"
 #include "workbench/Actions.h"
-#include "workbench/Document.h"
 #include "workbench/FileDialogs.h"
+#include "workbench/journal/JournalFolder.h"
+#include "workbench/panels/Widgets.h"
 
 #include <QAction>
 #include <QDir>
@@ -16,7 +17,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 FileCommands::FileCommands(const Workspace &workspace, QObject *parent)
-    : QObject(parent), m_workspace(workspace)
+    : QObject(parent), m_workspace(workspace), m_claim(JournalFolder::path())
 {
     const Actions &actions = *workspace.actions;
     connect(actions[ActionId::FileNew], &QAction::triggered, this, &FileCommands::create);
@@ -26,6 +27,7 @@ FileCommands::FileCommands(const Workspace &workspace, QObject *parent)
     connect(actions[ActionId::FileRevert], &QAction::triggered, this, &FileCommands::revert);
     connect(workspace.document, &Document::modifiedChanged, this, &FileCommands::updateActions);
     connect(workspace.document, &Document::pathChanged, this, &FileCommands::updateActions);
+    connect(workspace.document, &Document::pathChanged, this, &FileCommands::followPath);
     connect(&m_recent, &RecentFiles::chosen, this, &FileCommands::open);
     addRecentMenu();
     updateActions();
@@ -53,6 +55,7 @@ bool FileCommands::isDictionary(const QString &path)
 
 bool FileCommands::mayClose()
 {
+    Widgets::finishEditing(m_workspace.window);
     if (!m_workspace.document->isModified())
         return true;
     QMessageBox box(QMessageBox::Warning, tr("Unsaved changes"),
@@ -90,7 +93,10 @@ bool FileCommands::open(const QString &path)
 {
     if (!mayClose())
         return false;
-    if (!m_workspace.document->open(path)) {
+    const auto access = chooseAccess(path);
+    if (!access)
+        return false;
+    if (!m_workspace.document->open(path, *access)) {
         RecentFiles::remove(QFileInfo(path).absoluteFilePath());
         FileDialogs::showCannotOpen(m_workspace.window, path, m_workspace.document->errorText());
         return false;
@@ -102,12 +108,14 @@ bool FileCommands::open(const QString &path)
 
 bool FileCommands::save()
 {
-    const QString path = m_workspace.document->path();
-    return path.isEmpty() ? saveAs() : saveTo(path);
+    Widgets::finishEditing(m_workspace.window);
+    const Document &document = *m_workspace.document;
+    return document.path().isEmpty() || document.isReadOnly() ? saveAs() : saveTo(document.path());
 }
 
 bool FileCommands::saveAs()
 {
+    Widgets::finishEditing(m_workspace.window);
     const QString path = m_workspace.document->path();
     const QString proposal = path.isEmpty()
         ? QDir(FileDialogs::lastFolder()).filePath(tr("dictionary") + Constants::dictionaryExtension)
@@ -123,6 +131,8 @@ bool FileCommands::saveAs()
 bool FileCommands::saveTo(const QString &path)
 {
     Document &document = *m_workspace.document;
+    if (QFileInfo(path) != QFileInfo(document.path()) && !mayOverwrite(path))
+        return false;
     const auto attempt = [&](DocumentFile::SaveOptions options) {
         return document.save(path, options) ? std::nullopt : std::optional(FileDialogs::problemOf(document));
     };
@@ -144,6 +154,47 @@ void FileCommands::revert()
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     const QString path = m_workspace.document->path();
-    if (box.clickedButton() == yes && !m_workspace.document->open(path))
+    if (box.clickedButton() == yes && !m_workspace.document->open(path, m_workspace.document->access()))
         FileDialogs::showCannotOpen(m_workspace.window, path, m_workspace.document->errorText());
+}
+
+void FileCommands::followPath()
+{
+    const Document &document = *m_workspace.document;
+    m_claim.claim(document.access() == Document::Access::ReadOnly ? QString() : document.path());
+}
+
+std::optional<Document::Access> FileCommands::chooseAccess(const QString &path)
+{
+    using enum Document::Access;
+    if (!m_claim.isOpenElsewhere(path))
+        return ReadWrite;
+    QMessageBox box(QMessageBox::Warning, tr("Open"),
+                    tr("“%1” is open in another window.").arg(QFileInfo(path).fileName()),
+                    QMessageBox::Cancel, m_workspace.window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("Changes that are made in both windows have to be brought together by hand. "
+                              "Open it here to read it only?"));
+    QPushButton *readOnly = box.addButton(tr("Open Read-Only"), QMessageBox::AcceptRole);
+    const QAbstractButton *anyway = box.addButton(tr("Open Anyway"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(readOnly);
+    box.exec();
+    if (box.clickedButton() == readOnly)
+        return ReadOnly;
+    return box.clickedButton() == anyway ? std::optional(ReadWrite) : std::nullopt;
+}
+
+bool FileCommands::mayOverwrite(const QString &path)
+{
+    if (!m_claim.isOpenElsewhere(path))
+        return true;
+    QMessageBox box(QMessageBox::Warning, tr("Save"),
+                    tr("“%1” is open in another window.").arg(QFileInfo(path).fileName()),
+                    QMessageBox::Cancel, m_workspace.window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("Overwrite it nevertheless?"));
+    const QAbstractButton *yes = box.addButton(tr("Overwrite"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == yes;
 }

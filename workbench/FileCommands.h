@@ -1,9 +1,13 @@
 #pragma once
 
+#include "workbench/Document.h"
+#include "workbench/journal/FileClaim.h"
 #include "workbench/RecentFiles.h"
 #include "workbench/Workspace.h"
 
 #include <QObject>
+
+#include <optional>
 
 /// New, Open, Save, Save As and Revert, with the questions that they ask before work is lost.
 class FileCommands : public QObject
@@ -27,10 +31,15 @@ private:
     bool save();
     bool saveAs();
     bool saveTo(const QString &path);
+    void followPath();
+    /// How to open the file at \a path: another instance may have it open. Nothing when the person cancels.
+    [[nodiscard]] std::optional<Document::Access> chooseAccess(const QString &path);
+    [[nodiscard]] bool mayOverwrite(const QString &path);
     void revert();
     void addRecentMenu();
     void updateActions();
 
     Workspace m_workspace;
     RecentFiles m_recent;
+    FileClaim m_claim;
 };

@@ -8,6 +8,7 @@
 #include "workbench/dialogs/ExpressionDialog.h"
 #include "workbench/dialogs/LabelSetsDialog.h"
 #include "workbench/FileCommands.h"
+#include "workbench/journal/JournalFolder.h"
 #include "workbench/panels/EntityForm.h"
 #include "workbench/panels/EntityTreePanel.h"
 #include "workbench/panels/FindPanel.h"
@@ -17,7 +18,10 @@
 #include "workbench/panels/SourcesPanel.h"
 #include "workbench/panels/ValueLabelsPanel.h"
 #include "workbench/panels/VariableTablePanel.h"
+#include "workbench/panels/Widgets.h"
+#include "workbench/RecoveryCommands.h"
 #include "workbench/run/RunCommands.h"
+#include "workbench/SessionEnd.h"
 #include "workbench/SourceCommands.h"
 #include "workbench/Workspace.h"
 
@@ -41,7 +45,8 @@ namespace
 constexpr QSize plainSize(1280, 800);
 }
 
-MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_selection(&m_document)
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent), m_journal(&m_document, JournalFolder::path(), {}), m_selection(&m_document)
 {
     setAcceptDrops(true);
     setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
@@ -52,6 +57,9 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_selection(&m_do
     m_actions.place(this);
     m_files = new FileCommands({&m_document, &m_selection, &m_actions, this}, this);
     m_runs = new RunCommands({&m_document, &m_selection, &m_actions, this}, this);
+    m_recovery =
+        new RecoveryCommands({&m_document, &m_selection, &m_actions, this}, m_files, &m_journal, this);
+    m_sessionEnd = new SessionEnd(m_files, &m_journal, this);
     addPanels();
     ExpressionDialog::addTo({&m_document, &m_selection, &m_actions, this});
     AreaSelectionDialog::addTo({&m_document, &m_selection, &m_actions, this});
@@ -64,7 +72,9 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent), m_selection(&m_do
     connect(&m_document, &Document::pathChanged, this, &MainWindow::updateTitle);
     connect(&m_document, &Document::modifiedChanged, this, &MainWindow::updateTitle);
     updateTitle();
-    statusBar();
+    connect(&m_journal, &Journal::failed, statusBar(), [this](const QString &why) {
+        statusBar()->showMessage(tr("Unsaved changes cannot be kept safe: %1").arg(why));
+    });
     restoreLayout();
 }
 
@@ -148,16 +158,10 @@ void MainWindow::addUndo()
 {
     QUndoStack *stack = m_document.undoStack();
     // What is typed but not entered yet is entered first, and so is undone before anything else.
-    const auto finishEditing = [this] {
-        if (QWidget *focus = QApplication::focusWidget(); focus && isAncestorOf(focus)) {
-            focus->clearFocus();
-            focus->setFocus();
-        }
-    };
     QAction *undo = m_actions[ActionId::EditUndo];
     QAction *redo = m_actions[ActionId::EditRedo];
-    connect(undo, &QAction::triggered, this, [finishEditing, stack] {
-        finishEditing();
+    connect(undo, &QAction::triggered, this, [this, stack] {
+        Widgets::finishEditing(this);
         stack->undo();
     });
     connect(redo, &QAction::triggered, stack, &QUndoStack::redo);
@@ -187,7 +191,9 @@ void MainWindow::addAbout()
 
 void MainWindow::updateTitle()
 {
-    setWindowTitle(tr("%1[*] – Quillon Workbench").arg(m_document.title()));
+    const bool readOnly = m_document.access() == Document::Access::ReadOnly;
+    setWindowTitle((readOnly ? tr("%1[*] (read-only) – Quillon Workbench") : tr("%1[*] – Quillon Workbench"))
+                       .arg(m_document.title()));
     setWindowFilePath(m_document.path());
     setWindowModified(m_document.isModified());
 }
@@ -219,6 +225,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    // Whatever is not saved now was given up.
+    m_journal.discard();
     saveLayout();
     event->accept();
 }

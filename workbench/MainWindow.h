@@ -2,14 +2,16 @@
 
 #include "workbench/Actions.h"
 #include "workbench/Document.h"
-#include "workbench/RecentFiles.h"
+#include "workbench/journal/Journal.h"
 #include "workbench/Selection.h"
 
 #include <QMainWindow>
 
 class FileCommands;
 class Inspector;
+class RecoveryCommands;
 class RunCommands;
+class SessionEnd;
 struct Workspace;
 
 /// Makes the parts and wires them together; what they do stands in the parts.
@@ -26,6 +28,9 @@ public:
     [[nodiscard]] Selection *selection() { return &m_selection; }
     [[nodiscard]] Actions *actions() { return &m_actions; }
     [[nodiscard]] FileCommands *files() { return m_files; }
+    [[nodiscard]] Journal *journal() { return &m_journal; }
+    [[nodiscard]] RecoveryCommands *recovery() { return m_recovery; }
+    [[nodiscard]] SessionEnd *sessionEnd() { return m_sessionEnd; }
 
     /// Opens the dictionary or the run configuration at \a path.
     void open(const QString &path);
@@ -52,9 +57,12 @@ private:
 
     // In this order: each needs those before it.
     Document m_document;
+    Journal m_journal;
     Selection m_selection;
     Actions m_actions;
     FileCommands *m_files;
     RunCommands *m_runs;
+    RecoveryCommands *m_recovery;
+    SessionEnd *m_sessionEnd;
     QByteArray m_plainState;
 };

@@ -1,5 +1,7 @@
 #include "workbench/CommandLine.h"
 #include "workbench/MainWindow.h"
+#include "workbench/RecoveryCommands.h"
+#include "workbench/SessionEnd.h"
 #include "workbench/Theme.h"
 #include "workbench/Tour.h"
 #include "workbench/Translations.h"
@@ -39,7 +41,9 @@ int screenshot(MainWindow &window, const CommandLine &line)
 int tour(MainWindow &window, const CommandLine &line)
 {
     Tour tour(&window, line.tour);
-    return tour.go(line.file) ? 0 : fail(tour.errorText());
+    const bool done = tour.go(line.file);
+    window.journal()->discard(); // What the tour did not save nobody wants back.
+    return done ? 0 : fail(tour.errorText());
 }
 
 int work(MainWindow &window, const CommandLine &line)
@@ -48,6 +52,8 @@ int work(MainWindow &window, const CommandLine &line)
         window.open(line.file);
     if (!line.selection.isEmpty() && !window.selection()->select(line.selection))
         return fail(QApplication::translate("main", "There is no %1 in the dictionary.").arg(line.selection));
+    window.sessionEnd()->followSignals();
+    window.recovery()->offer();
     return QApplication::exec();
 }
 } // namespace

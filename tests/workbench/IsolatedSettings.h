@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 
-/// Keeps the settings of a test in a folder of its own, which goes with it.
+/// Keeps the settings and journals of a test in a folder of its own, which goes with it.
 class IsolatedSettings
 {
 public:
@@ -14,6 +15,7 @@ public:
         QCoreApplication::setApplicationName(QStringLiteral("test"));
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder.path()));
     }
 
 private:

@@ -3,6 +3,7 @@
 #include "common/IconPaths.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -140,6 +141,15 @@ void Widgets::setUpTree(QTreeView *tree, const QString &name)
     tree->setItemDelegate(new RoomyRows(tree));
     tree->setIndentation(16);
     tree->header()->hide();
+}
+
+void Widgets::finishEditing(const QWidget *window)
+{
+    QWidget *focus = QApplication::focusWidget();
+    if (!window || !focus || !window->isAncestorOf(focus))
+        return;
+    focus->clearFocus();
+    focus->setFocus();
 }
 
 void Widgets::bindKey(QAbstractItemView *view, const QKeySequence &key, QAction *action)

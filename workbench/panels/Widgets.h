@@ -26,6 +26,8 @@ namespace Widgets
 void setUpTable(QTableView *table, const QString &name);
 /// Sets up a tree of names.
 void setUpTree(QTreeView *tree, const QString &name);
+/// Enters what is being typed into a control of \a window, which may be null. The focus stays.
+void finishEditing(const QWidget *window);
 /// Lets \a key trigger \a action while \a view has the focus. Editors in the view keep the key for
 /// themselves.
 void bindKey(QAbstractItemView *view, const QKeySequence &key, QAction *action);

@@ -37,6 +37,8 @@ public:
 
     /// Forgets everything and starts from \a root.
     void start(const TDcEntity &root);
+    /// The dictionary as it was after the last step, without what is being done to it right now.
+    [[nodiscard]] const TDcEntity &committed() const { return *m_shadow; }
     /// Pushes one step from the shadow to \a root, called \a text, or after what changed if \a text is empty.
     /// If \a entity is not null, only its properties and variables are looked at. False, and no step, if
     /// nothing changed.
