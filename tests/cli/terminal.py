@@ -171,13 +171,17 @@ class TerminalTest(unittest.TestCase):
         dice = random.Random(1)
         ended = 0
         for verb in ("codebook", "convert", "import"):
-            for _ in range(4):
+            for attempt in range(6):
                 with self.subTest(verb):
                     self.out = Path(tempfile.mkdtemp(dir=self.folder.name))
                     task, arguments = self.verbs()[verb]
                     terminal = Terminal()
                     process = start(terminal, *arguments)
-                    terminal.drain(dice.uniform(0.02, 1.5))
+                    if attempt % 2:  # Just when the file appears, otherwise at any moment.
+                        while process.poll() is None and not os.listdir(self.out):
+                            pass
+                    else:
+                        terminal.drain(dice.uniform(0.02, 1.5))
                     process.send_signal(dice.choice([signal.SIGINT, signal.SIGTERM]))
                     finish(terminal, process)
                     left = list(self.out.iterdir())
