@@ -2702,11 +2702,6 @@
         <translation>Variablen, die den Satz haben</translation>
     </message>
     <message>
-        <source>%1 (variables: %L2)</source>
-        <comment>labels, and how many have them</comment>
-        <translation>%1 (Variablen: %L2)</translation>
-    </message>
-    <message>
         <source>&amp;Change All</source>
         <translation>Alle ä&amp;ndern</translation>
     </message>
@@ -2717,6 +2712,11 @@
     <message>
         <source>value labels of %L1 variables</source>
         <translation>Wertelabels von %L1 Variablen</translation>
+    </message>
+    <message>
+        <source>%L1 variables: %2</source>
+        <comment>how many have these labels</comment>
+        <translation>%L1 Variablen: %2</translation>
     </message>
 </context>
 <context>

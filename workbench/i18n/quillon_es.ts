@@ -2702,11 +2702,6 @@
         <translation>Variables que tienen el conjunto</translation>
     </message>
     <message>
-        <source>%1 (variables: %L2)</source>
-        <comment>labels, and how many have them</comment>
-        <translation>%1 (variables: %L2)</translation>
-    </message>
-    <message>
         <source>&amp;Change All</source>
         <translation>Cambiar &amp;todo</translation>
     </message>
@@ -2717,6 +2712,11 @@
     <message>
         <source>value labels of %L1 variables</source>
         <translation>etiquetas de valor de %L1 variables</translation>
+    </message>
+    <message>
+        <source>%L1 variables: %2</source>
+        <comment>how many have these labels</comment>
+        <translation>%L1 variables: %2</translation>
     </message>
 </context>
 <context>
