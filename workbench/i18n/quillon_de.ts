@@ -459,6 +459,14 @@
         <source>Edit value labels that several variables share</source>
         <translation>Wertelabels bearbeiten, die mehrere Variablen gemeinsam haben</translation>
     </message>
+    <message>
+        <source>Re&amp;cover Unsaved Changes…</source>
+        <translation>Ungespeicherte Änderungen &amp;wiederherstellen…</translation>
+    </message>
+    <message>
+        <source>Look for changes that were not saved before the workbench ended</source>
+        <translation>Nach Änderungen suchen, die vor dem Ende des Programms nicht gespeichert wurden</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -2017,6 +2025,10 @@
         <source>New dictionary</source>
         <translation>Neues Wörterbuch</translation>
     </message>
+    <message>
+        <source>It was opened for reading only. Save it under another name.</source>
+        <translation>Es wurde nur zum Lesen geöffnet. Speichern Sie es unter anderem Namen.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -2465,6 +2477,38 @@
         <source>All changes since then are lost, and so is what can be undone.</source>
         <translation>Alle Änderungen seitdem gehen verloren, auch was rückgängig gemacht werden kann.</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>“%1” is open in another window.</source>
+        <translation>„%1“ ist in einem anderen Fenster geöffnet.</translation>
+    </message>
+    <message>
+        <source>Changes that are made in both windows have to be brought together by hand. Open it here to read it only?</source>
+        <translation>Änderungen in beiden Fenstern müssen von Hand zusammengeführt werden. Hier nur zum Lesen öffnen?</translation>
+    </message>
+    <message>
+        <source>Open Read-Only</source>
+        <translation>Nur zum Lesen öffnen</translation>
+    </message>
+    <message>
+        <source>Open Anyway</source>
+        <translation>Trotzdem öffnen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Overwrite it nevertheless?</source>
+        <translation>Trotzdem überschreiben?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Überschreiben</translation>
+    </message>
 </context>
 <context>
     <name>FileDialogs</name>
@@ -2800,6 +2844,14 @@
         <source>Find</source>
         <translation>Suchen</translation>
     </message>
+    <message>
+        <source>Unsaved changes cannot be kept safe: %1</source>
+        <translation>Ungespeicherte Änderungen können nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>%1[*] (read-only) – Quillon Workbench</source>
+        <translation>%1[*] (schreibgeschützt) – Quillon Workbench</translation>
+    </message>
 </context>
 <context>
     <name>Paste</name>
@@ -2930,6 +2982,103 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>Recovery</name>
+    <message>
+        <source>Another window has recovered these changes.</source>
+        <translation>Ein anderes Fenster hat diese Änderungen wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>The changes are damaged.</source>
+        <translation>Die Änderungen sind beschädigt.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryCommands</name>
+    <message>
+        <source>Quillon Workbench</source>
+        <translation>Quillon Workbench</translation>
+    </message>
+    <message>
+        <source>The changes cannot be recovered.</source>
+        <translation>Die Änderungen können nicht wiederhergestellt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>It was never saved.</source>
+        <translation>Sie wurde nie gespeichert.</translation>
+    </message>
+    <message>
+        <source>It is as it was.</source>
+        <translation>Sie ist unverändert.</translation>
+    </message>
+    <message>
+        <source>It has been changed since.</source>
+        <translation>Sie wurde seitdem geändert.</translation>
+    </message>
+    <message>
+        <source>It is gone.</source>
+        <translation>Sie ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The workbench ended before these changes were saved. Recover them to see them and to save them. The file stays as it is until then.</source>
+        <translation>Das Programm endete, bevor diese Änderungen gespeichert waren. Stellen Sie sie wieder her, um sie zu sehen und zu speichern. Bis dahin bleibt die Datei, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Dictionary</source>
+        <translation>Wörterbuch</translation>
+    </message>
+    <message>
+        <source>Changed on</source>
+        <translation>Geändert am</translation>
+    </message>
+    <message>
+        <source>The file</source>
+        <translation>Die Datei</translation>
+    </message>
+    <message>
+        <source>New dictionary</source>
+        <translation>Neues Wörterbuch</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Löschen…</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Später</translation>
+    </message>
+    <message>
+        <source>Delete unsaved changes</source>
+        <translation>Ungespeicherte Änderungen löschen</translation>
+    </message>
+    <message>
+        <source>Delete the unsaved changes to “%1”?</source>
+        <translation>Die ungespeicherten Änderungen an „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>They cannot be had again.</source>
+        <translation>Sie lassen sich nicht zurückholen.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>

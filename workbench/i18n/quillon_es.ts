@@ -459,6 +459,14 @@
         <source>Edit value labels that several variables share</source>
         <translation>Editar etiquetas de valor que comparten varias variables</translation>
     </message>
+    <message>
+        <source>Re&amp;cover Unsaved Changes…</source>
+        <translation>&amp;Recuperar cambios sin guardar…</translation>
+    </message>
+    <message>
+        <source>Look for changes that were not saved before the workbench ended</source>
+        <translation>Buscar cambios que no se guardaron antes de que terminara el programa</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -2017,6 +2025,10 @@
         <source>New dictionary</source>
         <translation>Diccionario nuevo</translation>
     </message>
+    <message>
+        <source>It was opened for reading only. Save it under another name.</source>
+        <translation>Se abrió solo para lectura. Guárdelo con otro nombre.</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -2465,6 +2477,38 @@
         <source>All changes since then are lost, and so is what can be undone.</source>
         <translation>Se pierden todos los cambios desde entonces, y también lo que se puede deshacer.</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>“%1” is open in another window.</source>
+        <translation>«%1» está abierto en otra ventana.</translation>
+    </message>
+    <message>
+        <source>Changes that are made in both windows have to be brought together by hand. Open it here to read it only?</source>
+        <translation>Los cambios hechos en ambas ventanas deben reunirse a mano. ¿Abrirlo aquí solo para lectura?</translation>
+    </message>
+    <message>
+        <source>Open Read-Only</source>
+        <translation>Abrir solo para lectura</translation>
+    </message>
+    <message>
+        <source>Open Anyway</source>
+        <translation>Abrir de todos modos</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Overwrite it nevertheless?</source>
+        <translation>¿Sobrescribirlo de todos modos?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Sobrescribir</translation>
+    </message>
 </context>
 <context>
     <name>FileDialogs</name>
@@ -2800,6 +2844,14 @@
         <source>Find</source>
         <translation>Buscar</translation>
     </message>
+    <message>
+        <source>Unsaved changes cannot be kept safe: %1</source>
+        <translation>No se pueden proteger los cambios sin guardar: %1</translation>
+    </message>
+    <message>
+        <source>%1[*] (read-only) – Quillon Workbench</source>
+        <translation>%1[*] (solo lectura) – Quillon Workbench</translation>
+    </message>
 </context>
 <context>
     <name>Paste</name>
@@ -2930,6 +2982,103 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>&amp;Vaciar la lista</translation>
+    </message>
+</context>
+<context>
+    <name>Recovery</name>
+    <message>
+        <source>Another window has recovered these changes.</source>
+        <translation>Otra ventana ha recuperado estos cambios.</translation>
+    </message>
+    <message>
+        <source>The changes are damaged.</source>
+        <translation>Los cambios están dañados.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryCommands</name>
+    <message>
+        <source>Quillon Workbench</source>
+        <translation>Quillon Workbench</translation>
+    </message>
+    <message>
+        <source>The changes cannot be recovered.</source>
+        <translation>No se pueden recuperar los cambios.</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>It was never saved.</source>
+        <translation>Nunca se guardó.</translation>
+    </message>
+    <message>
+        <source>It is as it was.</source>
+        <translation>Está como estaba.</translation>
+    </message>
+    <message>
+        <source>It has been changed since.</source>
+        <translation>Ha cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>It is gone.</source>
+        <translation>Ya no existe.</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>The workbench ended before these changes were saved. Recover them to see them and to save them. The file stays as it is until then.</source>
+        <translation>El programa terminó antes de que se guardaran estos cambios. Recupérelos para verlos y guardarlos. Hasta entonces el archivo queda como está.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>Dictionary</source>
+        <translation>Diccionario</translation>
+    </message>
+    <message>
+        <source>Changed on</source>
+        <translation>Modificado el</translation>
+    </message>
+    <message>
+        <source>The file</source>
+        <translation>El archivo</translation>
+    </message>
+    <message>
+        <source>New dictionary</source>
+        <translation>Diccionario nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Recuperar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Eliminar…</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Más tarde</translation>
+    </message>
+    <message>
+        <source>Delete unsaved changes</source>
+        <translation>Eliminar cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>Delete the unsaved changes to “%1”?</source>
+        <translation>¿Eliminar los cambios sin guardar de «%1»?</translation>
+    </message>
+    <message>
+        <source>They cannot be had again.</source>
+        <translation>No se podrán recuperar.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>
