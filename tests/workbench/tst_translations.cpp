@@ -2,89 +2,24 @@
 #include "documents/codebook/Codebook.h"
 #include "documents/DictionaryCopy.h"
 #include "documents/DictionaryDifference.h"
-#include "model/ValueLabelElement.h"
 #include "models/VariableDiccionaryModel.h"
 #include "tests/workbench/Bench.h"
 #include "tests/workbench/IsolatedSettings.h"
+#include "tests/workbench/LabelledVariables.h"
 #include "tests/workbench/TsFiles.h"
-#include "workbench/MainWindow.h"
 #include "workbench/operations/ExpressionCheck.h"
 #include "workbench/Translations.h"
 
-#include <QAbstractButton>
-#include <QDialog>
-#include <QLabel>
 #include <QMenu>
-#include <QMenuBar>
 #include <QScrollArea>
 #include <QSet>
 #include <QTest>
-#include <QToolButton>
 #include <QTranslator>
-#include <QWizardPage>
 
 using namespace TsFiles;
 
 namespace
 {
-/// Those of \a texts whose mnemonic another has too.
-QStringList clashes(const QStringList &texts)
-{
-    QMultiHash<QChar, QString> byLetter;
-    for (const QString &text : texts) {
-        if (const QChar letter = mnemonic(text); !letter.isNull())
-            byLetter.insert(letter, text);
-    }
-    QStringList found;
-    const QList<QChar> letters = byLetter.uniqueKeys();
-    for (const QChar letter : letters) {
-        if (byLetter.count(letter) > 1)
-            found.append(byLetter.values(letter).join(u" / "_s));
-    }
-    return found;
-}
-
-/// What Alt reaches in \a window: labels of fields, and buttons. Of pages that take turns, those of \a page.
-QStringList texts(const QWidget &window, const QWidget *page = nullptr)
-{
-    const auto shown = [&window, page](const QWidget *widget) {
-        for (const QWidget *above = widget; above && above != &window; above = above->parentWidget()) {
-            if (qobject_cast<const QWizardPage *>(above))
-                return above == page;
-        }
-        return !widget->isHidden();
-    };
-    QStringList result;
-    const QList<QLabel *> labels = window.findChildren<QLabel *>();
-    for (const QLabel *label : labels) {
-        if (label->buddy() && shown(label))
-            result.append(label->text());
-    }
-    const QList<QAbstractButton *> buttons = window.findChildren<QAbstractButton *>();
-    for (const QAbstractButton *button : buttons) {
-        if (!qobject_cast<const QToolButton *>(button) && shown(button))
-            result.append(button->text());
-    }
-    return result;
-}
-
-/// Gives the dictionary two variables with the same value labels and selects them.
-void addLabelledVariables(MainWindow &window)
-{
-    TDcEntity *root = window.document()->root();
-    window.document()->edit(u"adding"_s, [root] {
-        for (const QString &name : {u"SMOKES"_s, u"DRINKS"_s}) {
-            TDcVariable *variable = makeVariable(name);
-            auto *label = new ValueLabelElement;
-            label->setValue(u"1"_s);
-            label->setLabel(u"Yes"_s);
-            variable->addValueLabelElement(label);
-            root->addVariables(variable);
-        }
-    });
-    window.selection()->setVariables(*root->getVariables(), root->getVariables()->first());
-}
-
 /// Notes what is asked for while it lives.
 class Listener : public QTranslator
 {
@@ -103,13 +38,6 @@ private:
     mutable QSet<std::pair<QString, QString>> m_asked;
 };
 
-QStringList texts(const QList<QAction *> &actions)
-{
-    QStringList result;
-    for (const QAction *action : actions)
-        result.append(action->text());
-    return result;
-}
 } // namespace
 
 class TestTranslations : public QObject
@@ -121,10 +49,6 @@ private Q_SLOTS:
     void cleanup();
 
     void textsAreAskedForWhereTheyStand();
-    void mnemonicsAreUnique_data();
-    void mnemonicsAreUnique();
-    void mnemonicsOfDialogsAreUnique_data();
-    void mnemonicsOfDialogsAreUnique();
     void formsHaveRoomForTheirTexts_data();
     void formsHaveRoomForTheirTexts();
     void reachesEveryLayer_data();
@@ -188,58 +112,6 @@ void TestTranslations::textsAreAskedForWhereTheyStand()
     }
     QVERIFY(asked.size() > 400);
     QCOMPARE(unknown.join(u'\n'), QString());
-}
-
-void TestTranslations::mnemonicsAreUnique_data()
-{
-    addLanguages();
-    QTest::addRow("English") << u"en"_s;
-}
-
-void TestTranslations::mnemonicsAreUnique()
-{
-    QFETCH(const QString, language);
-    Translations::install(language);
-    MainWindow window;
-    window.show();
-    for (const QAction *action : window.menuBar()->actions())
-        QCOMPARE(clashes(texts(action->menu()->actions())).join(u'\n'), QString());
-    QCOMPARE(clashes(texts(window.menuBar()->actions()) + texts(window)).join(u'\n'), QString());
-}
-
-void TestTranslations::mnemonicsOfDialogsAreUnique_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<ActionId>("opens");
-    for (const char *language : {"de", "en", "es"}) {
-        const auto add = [language](const char *name, ActionId opens) {
-            QTest::addRow("%s, %s", name, language) << QString::fromLatin1(language) << opens;
-        };
-        add("expression", ActionId::ToolsExpression);
-        add("areas", ActionId::ToolsAreas);
-        add("run configuration", ActionId::ToolsNewRun);
-        add("many variables", ActionId::VariableEditTogether);
-        add("copied values", ActionId::ValuesCopyTo);
-        add("label sets", ActionId::ValuesLabelSets);
-    }
-}
-
-void TestTranslations::mnemonicsOfDialogsAreUnique()
-{
-    QFETCH(const QString, language);
-    QFETCH(const ActionId, opens);
-    Translations::install(language);
-    MainWindow window;
-    addLabelledVariables(window);
-    window.show();
-    (*window.actions())[opens]->trigger();
-    const auto *dialog = window.findChild<QDialog *>();
-    QVERIFY(dialog);
-    QList<QWizardPage *> pages = dialog->findChildren<QWizardPage *>();
-    if (pages.isEmpty())
-        pages.append(nullptr); // It has no pages that take turns.
-    for (const QWizardPage *page : std::as_const(pages))
-        QCOMPARE(clashes(texts(*dialog, page)).join(u'\n'), QString());
 }
 
 void TestTranslations::formsHaveRoomForTheirTexts_data()
