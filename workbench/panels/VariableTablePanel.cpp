@@ -100,7 +100,7 @@ void VariableTablePanel::arrangeColumns()
     const int letter = fontMetrics().averageCharWidth();
     constexpr int letters[] = {22, 13, 30, 15, 9}; // The label takes what is left.
     for (int column = 0; column < header->count(); ++column)
-        header->resizeSection(column, letters[column] * letter);
+        header->resizeSection(column, qMax(letters[column] * letter, header->sectionSizeHint(column)));
     header->setSectionResizeMode(2, QHeaderView::Stretch);
 }
 
