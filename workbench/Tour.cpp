@@ -3,11 +3,15 @@
 #include "model/TDcEntity.h"
 #include "model/TDcVariable.h"
 #include "workbench/dialogs/AreaSelectionDialog.h"
+#include "workbench/dialogs/CopyValuesDialog.h"
+#include "workbench/dialogs/EditTogetherDialog.h"
 #include "workbench/dialogs/ExpressionDialog.h"
 #include "workbench/dialogs/ExpressionEdit.h"
+#include "workbench/dialogs/LabelSetsDialog.h"
 #include "workbench/MainWindow.h"
 #include "workbench/operations/NewNames.h"
 #include "workbench/panels/EntityTreePanel.h"
+#include "workbench/panels/FindPanel.h"
 #include "workbench/panels/RangesPanel.h"
 #include "workbench/panels/SourcesPanel.h"
 #include "workbench/panels/SourceTab.h"
@@ -19,6 +23,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
@@ -88,6 +93,12 @@ QList<Tour::Stop> Tour::stops()
         {"undo", TEXT("Every step can be undone and redone."), [this] { return showUndo(); }},
         {"save", TEXT("The dictionary is saved."), [this] { return save(); }},
         {"problems", TEXT("The dictionary is checked."), [this] { return check(); }},
+        {"search", TEXT("The whole tree is searched."), [this] { return search(); }},
+        {"together", TEXT("Several variables are edited together."), [this] { return editTogether(); }},
+        {"copy", TEXT("Value labels and ranges are copied to many variables."),
+         [this] { return dismiss(show<CopyValuesDialog>(ActionId::ValuesCopyTo)); }},
+        {"sets", TEXT("Identical sets of value labels are edited once."),
+         [this] { return dismiss(show<LabelSetsDialog>(ActionId::ValuesLabelSets)); }},
         {"expression", TEXT("An expression is put together from what the dictionary holds."),
          [this] { return buildExpression(); }},
         {"areas", TEXT("Area units are selected."), [this] { return selectAreas(); }},
@@ -290,9 +301,30 @@ Dialog *Tour::show(ActionId id)
 
 bool Tour::dismiss(QDialog *dialog)
 {
+    if (!dialog)
+        return true; // There is nothing to do here, and the action says so.
     const bool drawn = picture(dialog);
     delete dialog; // Closing might ask.
     return drawn;
+}
+
+bool Tour::search()
+{
+    trigger(ActionId::EditFind);
+    auto *panel = m_window->findChild<FindPanel *>();
+    panel->field()->setText(u"work"_s);
+    // Typing is let settle before it is searched.
+    const QDeadlineTimer patience(2000);
+    while (panel->view()->model()->rowCount() == 0 && !patience.hasExpired())
+        settle();
+    return picture(m_window);
+}
+
+bool Tour::editTogether()
+{
+    m_window->findChild<VariableTablePanel *>()->view()->selectAll();
+    settle();
+    return dismiss(show<EditTogetherDialog>(ActionId::VariableEditTogether));
 }
 
 bool Tour::buildExpression()

@@ -48,6 +48,8 @@ private:
     bool showUndo();
     bool save();
     bool check();
+    bool search();
+    bool editTogether();
     bool buildExpression();
     bool selectAreas();
     bool makeRun();
