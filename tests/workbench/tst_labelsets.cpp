@@ -29,6 +29,7 @@ private Q_SLOTS:
     void changesAllMembers();
     void editsOnceInOneStep();
     void addsMovesAndRemoves();
+    void takesEditsBack();
     void saysWhenThereIsNone();
 
 private:
@@ -187,6 +188,22 @@ void TestLabelSets::addsMovesAndRemoves()
     button(dialog, u"Change in 2 Variables"_s)->click();
     QCOMPARE(labels(u"SEX"_s), u"3=C 1=A 4="_s);
     QCOMPARE(labels(u"AGE"_s), u"3=C 1=A 4="_s);
+}
+
+void TestLabelSets::takesEditsBack()
+{
+    setLabels(u"SEX"_s, u"1=Yes 2=No"_s);
+    setLabels(u"AGE"_s, u"1=Yes 2=No"_s);
+    const LabelSetsDialog dialog(m_bench->workspace());
+    const auto *view = dialog.findChild<QTableView *>();
+    QPushButton *takeBack = button(dialog, u"Take Back"_s);
+    QVERIFY(!takeBack->isEnabled());
+    QVERIFY(view->model()->setData(view->model()->index(0, 0), u"7"_s));
+    takeBack->click();
+    QCOMPARE(view->model()->index(0, 0).data().toString(), u"1"_s);
+    QVERIFY(!takeBack->isEnabled());
+    QVERIFY(dialog.findChild<QListWidget *>()->isEnabled());
+    QCOMPARE(m_bench->document.undoStack()->count(), 0);
 }
 
 void TestLabelSets::saysWhenThereIsNone()

@@ -47,12 +47,15 @@ LabelSetsDialog::LabelSetsDialog(const Workspace &workspace)
     splitter->setSizes({380, 440});
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     m_apply = buttons->addButton(tr("Change All"), QDialogButtonBox::ApplyRole);
-    m_apply->setAutoDefault(false);
+    m_takeBack = buttons->addButton(tr("Take &Back"), QDialogButtonBox::ResetRole);
+    for (QPushButton *button : {m_apply, m_takeBack})
+        button->setAutoDefault(false);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(splitter, 1);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_apply, &QPushButton::clicked, this, &LabelSetsDialog::apply);
+    connect(m_takeBack, &QPushButton::clicked, this, [this] { showSet(m_set); });
     connect(m_list, &QListWidget::currentRowChanged, this, &LabelSetsDialog::showSet);
     // The variables may go with the change.
     connect(workspace.document, &Document::structureAboutToChange, this, &QDialog::reject);
@@ -223,6 +226,7 @@ void LabelSetsDialog::updateButtons()
     m_up->setEnabled(ListEdits::canMove(elements, rows, true));
     m_down->setEnabled(ListEdits::canMove(elements, rows, false));
     m_apply->setEnabled(isChanged());
+    m_takeBack->setEnabled(isChanged());
     // What is edited must be written or taken back before another set is shown.
     m_list->setEnabled(!isChanged());
     m_apply->setText(m_set < 0 ? tr("&Change All")

@@ -61,4 +61,5 @@ private:
     QPushButton *m_up;
     QPushButton *m_down;
     QPushButton *m_apply;
+    QPushButton *m_takeBack;
 };

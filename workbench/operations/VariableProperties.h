@@ -30,6 +30,6 @@ namespace VariableProperties
 [[nodiscard]] const QList<VariableProperty> &all();
 /// The property called \a name in English.
 [[nodiscard]] const VariableProperty &named(QLatin1StringView name);
-/// What separates the types that the layer knows from other words.
+/// The types that the layer knows.
 [[nodiscard]] QStringList typeWords();
 } // namespace VariableProperties

@@ -1,10 +1,10 @@
 #include "workbench/panels/VariableForm.h"
 
-#include "common/Constants.h"
 #include "model/MetadataVariables.h"
 #include "model/TDcVariable.h"
 #include "models/VariableDiccionaryModel.h"
 #include "workbench/Document.h"
+#include "workbench/operations/VariableProperties.h"
 #include "workbench/panels/PropertyForm.h"
 #include "workbench/panels/Widgets.h"
 #include "workbench/Selection.h"
@@ -93,14 +93,12 @@ void VariableForm::build()
     m_form->addRow(tr("Al&ias"), m_form->text(tr("Alias"), get<&V::getAlias>(), column(Alias)));
     m_form->addRow(tr("La&bel"), m_form->text(tr("Label"), get<&V::getLabel>(), column(Label)));
     m_form->addRow(tr("&Group"), m_form->text(tr("Group"), get<&V::getGroup>(), column(Group)));
-    m_form->addRow(
-        tr("T&ype"),
-        m_form->choice(tr("Type"),
-                       {Constants::typeInteger, Constants::typeReal, Constants::typeString, u"BOOL"_s},
-                       get<&V::getVarType>(), set<&V::setVarType, QString>()),
-        tr("Tag"), m_form->number(tr("Tag"), get<&V::getTag>(), [this](int tag) {
-            setColumn(Tag, QString::number(tag));
-        }));
+    m_form->addRow(tr("T&ype"),
+                   m_form->choice(tr("Type"), VariableProperties::typeWords(), get<&V::getVarType>(),
+                                  set<&V::setVarType, QString>()),
+                   tr("Tag"), m_form->number(tr("Tag"), get<&V::getTag>(), [this](int tag) {
+                       setColumn(Tag, QString::number(tag));
+                   }));
     m_form->addRow(tr("Si&ze"), m_form->number(tr("Size"), get<&V::getSize>(), set<&V::setSize, int>()),
                    tr("Decimals"),
                    m_form->number(tr("Decimals"), get<&V::getDecimals>(), set<&V::setDecimals, int>()));
