@@ -4,6 +4,8 @@
 #include "workbench/dialogs/ExpressionDialog.h"
 #include "workbench/dialogs/ExpressionEdit.h"
 #include "workbench/dialogs/ReferenceList.h"
+#include "workbench/MainWindow.h"
+#include "workbench/panels/EntityForm.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -15,6 +17,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTest>
 #include <QToolButton>
 
@@ -43,6 +46,7 @@ private Q_SLOTS:
     void saysWhatIsWrongWhileTyping();
     void copiesToTheClipboard();
     void insertsIntoNotes();
+    void insertsIntoTheNotesThatAreBeingWritten();
     void keepsTheTextForTheNextTime();
     void closesWhenTheDictionaryGoes();
     void escapeCloses();
@@ -307,6 +311,30 @@ void TestExpressionDialog::insertsIntoNotes()
     QCOMPARE(used.first().first().toString(), u"PERSON.AGE = 1"_s);
     QCOMPARE(notes.toPlainText(), u"Filter: PERSON.AGE = 1"_s);
     QVERIFY(!m_dialog->isVisible());
+}
+
+void TestExpressionDialog::insertsIntoTheNotesThatAreBeingWritten()
+{
+    m_dialog.reset();
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    auto *form = window.findChild<EntityForm *>();
+    auto *notes = form->findChild<QPlainTextEdit *>();
+    notes->setFocus();
+    QTest::keyClicks(notes, u"Only if "_s);
+    (*window.actions())[ActionId::ToolsExpression]->trigger();
+    auto *dialog = window.findChild<ExpressionDialog *>(u"expressionDialog"_s);
+    QVERIFY(dialog->isModal());
+    dialog->editor()->setPlainText(u"1 = 1"_s);
+    const auto buttons = dialog->findChildren<QPushButton *>();
+    for (QPushButton *insert : buttons) {
+        if (insert->text() == u"&Insert into Notes"_s)
+            insert->click();
+    }
+    QTRY_COMPARE(QApplication::focusWidget(), notes);
+    window.findChild<QTableView *>()->setFocus();
+    QCOMPARE(window.document()->root()->getDocumentationEntity(), u"Only if 1 = 1"_s);
 }
 
 void TestExpressionDialog::keepsTheTextForTheNextTime()

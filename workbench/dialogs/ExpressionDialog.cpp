@@ -205,8 +205,10 @@ void ExpressionDialog::setTarget(QPlainTextEdit *notes)
     if (!notes)
         return;
     m_insert->setToolTip(tr("Insert the expression into “%1”").arg(notes->accessibleName()));
-    connect(this, &ExpressionDialog::used, notes,
-            [notes](const QString &expression) { notes->insertPlainText(expression); });
+    connect(this, &ExpressionDialog::used, notes, [notes](const QString &expression) {
+        notes->insertPlainText(expression);
+        notes->setFocus(); // Notes are kept when the focus leaves them.
+    });
 }
 
 TDcEntity *ExpressionDialog::entity() const
