@@ -2762,6 +2762,10 @@
         <comment>how many have these labels</comment>
         <translation>%L1 Variablen: %2</translation>
     </message>
+    <message>
+        <source>Take &amp;Back</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>LookupFile</name>
@@ -3593,6 +3597,22 @@
     <message>
         <source>First run</source>
         <translation>Erster Lauf</translation>
+    </message>
+    <message>
+        <source>The whole tree is searched.</source>
+        <translation>Der ganze Baum wird durchsucht.</translation>
+    </message>
+    <message>
+        <source>Several variables are edited together.</source>
+        <translation>Mehrere Variablen werden gemeinsam bearbeitet.</translation>
+    </message>
+    <message>
+        <source>Value labels and ranges are copied to many variables.</source>
+        <translation>Wertelabels und Bereiche werden auf viele Variablen kopiert.</translation>
+    </message>
+    <message>
+        <source>Identical sets of value labels are edited once.</source>
+        <translation>Gleiche Sätze von Wertelabels werden einmal bearbeitet.</translation>
     </message>
 </context>
 <context>

@@ -2762,6 +2762,10 @@
         <comment>how many have these labels</comment>
         <translation>%L1 variables: %2</translation>
     </message>
+    <message>
+        <source>Take &amp;Back</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>LookupFile</name>
@@ -3593,6 +3597,22 @@
     <message>
         <source>First run</source>
         <translation>Primera ejecución</translation>
+    </message>
+    <message>
+        <source>The whole tree is searched.</source>
+        <translation>Se busca en todo el árbol.</translation>
+    </message>
+    <message>
+        <source>Several variables are edited together.</source>
+        <translation>Se editan varias variables juntas.</translation>
+    </message>
+    <message>
+        <source>Value labels and ranges are copied to many variables.</source>
+        <translation>Se copian etiquetas de valor y rangos a muchas variables.</translation>
+    </message>
+    <message>
+        <source>Identical sets of value labels are edited once.</source>
+        <translation>Los conjuntos iguales de etiquetas de valor se editan una sola vez.</translation>
     </message>
 </context>
 <context>
