@@ -2764,7 +2764,7 @@
     </message>
     <message>
         <source>Take &amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurücknehmen</translation>
     </message>
 </context>
 <context>
