@@ -196,7 +196,7 @@ void TestLabelSets::takesEditsBack()
     setLabels(u"AGE"_s, u"1=Yes 2=No"_s);
     const LabelSetsDialog dialog(m_bench->workspace());
     const auto *view = dialog.findChild<QTableView *>();
-    QPushButton *takeBack = button(dialog, u"Take Back"_s);
+    QPushButton *takeBack = button(dialog, u"Reset"_s);
     QVERIFY(!takeBack->isEnabled());
     QVERIFY(view->model()->setData(view->model()->index(0, 0), u"7"_s));
     takeBack->click();

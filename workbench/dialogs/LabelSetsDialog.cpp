@@ -47,7 +47,7 @@ LabelSetsDialog::LabelSetsDialog(const Workspace &workspace)
     splitter->setSizes({380, 440});
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     m_apply = buttons->addButton(tr("Change All"), QDialogButtonBox::ApplyRole);
-    m_takeBack = buttons->addButton(tr("Take &Back"), QDialogButtonBox::ResetRole);
+    m_takeBack = buttons->addButton(QDialogButtonBox::Reset);
     for (QPushButton *button : {m_apply, m_takeBack})
         button->setAutoDefault(false);
     auto *layout = new QVBoxLayout(this);
