@@ -40,10 +40,25 @@ void Document::clear()
 
 bool Document::open(const QString &path, Access access)
 {
-    auto file = std::make_unique<DictionaryFile>();
-    if (!succeed(file->open(QFileInfo(path).absoluteFilePath()), *file))
+    // Whoever cancels leaves it to be read in vain; so nothing else knows of it.
+    struct Reading {
+        std::unique_ptr<DictionaryFile> file = std::make_unique<DictionaryFile>();
+        bool done = false;
+    };
+    const auto reading = std::make_shared<Reading>();
+    const QFileInfo info(path);
+    const bool waited =
+        m_wait(tr("Opening “%1”…").arg(info.fileName()), true, [reading, absolute = info.absoluteFilePath()] {
+            reading->done = reading->file->open(absolute);
+        });
+    if (!waited) {
+        m_error = DocumentFile::Error::None;
+        m_errorText.clear();
         return false;
-    start(std::move(file), access);
+    }
+    if (!succeed(reading->done, *reading->file))
+        return false;
+    start(std::move(reading->file), access);
     return true;
 }
 
@@ -70,8 +85,16 @@ bool Document::save(const QString &path, DocumentFile::SaveOptions options)
         m_errorText = tr("It was opened for reading only. Save it under another name.");
         return false;
     }
-    if (!succeed(m_file->saveAs(QFileInfo(path).absoluteFilePath(), options), *m_file))
+    // A copy is written, since the views go on looking at the objects themselves.
+    auto file = m_file->withRoot(DictionaryCopy::copy(*root()));
+    bool done = false;
+    const QFileInfo info(path);
+    m_wait(tr("Saving “%1”…").arg(info.fileName()), false,
+           [&] { done = file->saveAs(info.absoluteFilePath(), options); });
+    if (!succeed(done, *file))
         return false;
+    file->setRoot(m_file->takeRoot());
+    m_file = std::move(file);
     m_access = Access::ReadWrite;
     m_undoStack.setClean();
     Q_EMIT pathChanged(this->path());

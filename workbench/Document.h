@@ -25,6 +25,10 @@ public:
     /// ReadOnly leaves the file alone, whatever its permissions; the dictionary can be saved elsewhere.
     enum class Access { ReadWrite, ReadOnly };
 
+    /// Does what may take long and returns when it is done; \a text says what it is. False when the person
+    /// did not want to wait, which they may only if \a mayCancel; then the work is done unseen.
+    using Wait = std::function<bool(const QString &text, bool mayCancel, const std::function<void()> &work)>;
+
     explicit Document(QObject *parent = nullptr);
     ~Document() override;
     Q_DISABLE_COPY_MOVE(Document)
@@ -39,10 +43,14 @@ public:
     [[nodiscard]] bool isModified() const { return !m_undoStack.isClean(); }
     [[nodiscard]] QUndoStack *undoStack() { return &m_undoStack; }
 
+    /// Lets files be read and written through \a wait, in another thread if it likes. Without it they are at
+    /// once.
+    void setWait(Wait wait) { m_wait = std::move(wait); }
+
     /// Starts an empty dictionary.
     void clear();
-    /// Replaces the dictionary by the one in the file at \a path. If that fails, nothing changes, and
-    /// errorText() says why.
+    /// Replaces the dictionary by the one in the file at \a path. If that fails or is cancelled, nothing
+    /// changes, and errorText() says why; it is empty when it was cancelled.
     [[nodiscard]] bool open(const QString &path, Access access = Access::ReadWrite);
     /// Replaces the dictionary by changes that were never saved. If that fails, nothing changes.
     [[nodiscard]] bool restore(const DocumentFile::Unsaved &unsaved);
@@ -83,6 +91,10 @@ private:
     bool succeed(bool done, const DictionaryFile &file);
 
     std::unique_ptr<DictionaryFile> m_file; // Never null.
+    Wait m_wait = [](const QString &, bool, const std::function<void()> &work) {
+        work();
+        return true;
+    };
     DocumentFile::Error m_error = DocumentFile::Error::None;
     QString m_errorText;
     Access m_access = Access::ReadWrite;

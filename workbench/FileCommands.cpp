@@ -5,6 +5,7 @@
 #include "workbench/FileDialogs.h"
 #include "workbench/journal/JournalFolder.h"
 #include "workbench/panels/Widgets.h"
+#include "workbench/Progress.h"
 
 #include <QAction>
 #include <QDir>
@@ -29,6 +30,11 @@ FileCommands::FileCommands(const Workspace &workspace, QObject *parent)
     connect(workspace.document, &Document::pathChanged, this, &FileCommands::updateActions);
     connect(workspace.document, &Document::pathChanged, this, &FileCommands::followPath);
     connect(&m_recent, &RecentFiles::chosen, this, &FileCommands::open);
+    workspace.document->setWait(
+        [window = workspace.window](const QString &text, bool mayCancel, const std::function<void()> &work) {
+            using enum Progress::Cancel;
+            return Progress::run(text, window, mayCancel ? Possible : Impossible, work);
+        });
     addRecentMenu();
     updateActions();
 }
@@ -97,6 +103,8 @@ bool FileCommands::open(const QString &path)
     if (!access)
         return false;
     if (!m_workspace.document->open(path, *access)) {
+        if (m_workspace.document->errorText().isEmpty()) // Cancelled: the person knows.
+            return false;
         RecentFiles::remove(QFileInfo(path).absoluteFilePath());
         FileDialogs::showCannotOpen(m_workspace.window, path, m_workspace.document->errorText());
         return false;
@@ -154,7 +162,8 @@ void FileCommands::revert()
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     const QString path = m_workspace.document->path();
-    if (box.clickedButton() == yes && !m_workspace.document->open(path, m_workspace.document->access()))
+    if (box.clickedButton() == yes && !m_workspace.document->open(path, m_workspace.document->access())
+        && !m_workspace.document->errorText().isEmpty())
         FileDialogs::showCannotOpen(m_workspace.window, path, m_workspace.document->errorText());
 }
 
