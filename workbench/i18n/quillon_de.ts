@@ -2029,6 +2029,14 @@
         <source>It was opened for reading only. Save it under another name.</source>
         <translation>Es wurde nur zum Lesen geöffnet. Speichern Sie es unter anderem Namen.</translation>
     </message>
+    <message>
+        <source>Opening “%1”…</source>
+        <translation>„%1“ wird geöffnet…</translation>
+    </message>
+    <message>
+        <source>Saving “%1”…</source>
+        <translation>„%1“ wird gespeichert…</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -2761,10 +2769,6 @@
         <source>%L1 variables: %2</source>
         <comment>how many have these labels</comment>
         <translation>%L1 Variablen: %2</translation>
-    </message>
-    <message>
-        <source>Take &amp;Back</source>
-        <translation>&amp;Zurücknehmen</translation>
     </message>
 </context>
 <context>

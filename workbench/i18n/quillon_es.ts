@@ -2029,6 +2029,14 @@
         <source>It was opened for reading only. Save it under another name.</source>
         <translation>Se abrió solo para lectura. Guárdelo con otro nombre.</translation>
     </message>
+    <message>
+        <source>Opening “%1”…</source>
+        <translation>Abriendo «%1»…</translation>
+    </message>
+    <message>
+        <source>Saving “%1”…</source>
+        <translation>Guardando «%1»…</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -2761,10 +2769,6 @@
         <source>%L1 variables: %2</source>
         <comment>how many have these labels</comment>
         <translation>%L1 variables: %2</translation>
-    </message>
-    <message>
-        <source>Take &amp;Back</source>
-        <translation>&amp;Deshacer</translation>
     </message>
 </context>
 <context>
