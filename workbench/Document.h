@@ -70,7 +70,8 @@ public:
 
     /// Makes one step of all that was changed since the last one, if anything was. \a text completes "Undo"
     /// in the menu; when it is empty, the step is described by what changed. If only properties, variables,
-    /// ranges or value labels of one entity changed, \a entity spares the search through the others.
+    /// ranges or value labels of one entity changed, \a entity spares the search through the others. The
+    /// selectable marks of those below it may have changed with them.
     void commit(const QString &text = {}, TDcEntity *entity = nullptr);
     /// Runs \a change, which may add, remove and move objects, and makes one step of it.
     void edit(const QString &text, const std::function<void()> &change);

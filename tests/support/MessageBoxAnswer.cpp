@@ -39,7 +39,14 @@ ShownBox describe(QMessageBox &box)
 }
 } // namespace
 
-MessageBoxAnswer::MessageBoxAnswer(QStringList answers) : m_answers(std::move(answers))
+MessageBoxAnswer::MessageBoxAnswer(QStringList answers)
+    : MessageBoxAnswer([answers = std::move(answers)](const ShownBox &) mutable {
+          return answers.size() > 1 ? answers.takeFirst() : answers.constFirst();
+      })
+{
+}
+
+MessageBoxAnswer::MessageBoxAnswer(Choose choose) : m_choose(std::move(choose))
 {
     qApp->installEventFilter(this);
 }
@@ -70,7 +77,7 @@ bool MessageBoxAnswer::eventFilter(QObject *watched, QEvent *event)
 void MessageBoxAnswer::answer(QMessageBox &box)
 {
     m_shown.append(describe(box));
-    const QString wanted = m_answers.size() > 1 ? m_answers.takeFirst() : m_answers.constFirst();
+    const QString wanted = m_choose(m_shown.constLast());
     if (wanted.isEmpty()) {
         QTest::keyClick(&box, Qt::Key_Escape);
         return;

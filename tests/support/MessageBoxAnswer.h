@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
+
 /// What a message box showed when it was answered. Button texts are without mnemonics.
 struct ShownBox {
     QString title;
@@ -27,7 +29,11 @@ struct ShownBox {
 class MessageBoxAnswer : public QObject
 {
 public:
+    /// Makes the answer to a box.
+    using Choose = std::function<QString(const ShownBox &)>;
+
     explicit MessageBoxAnswer(QStringList answers = {QString()});
+    explicit MessageBoxAnswer(Choose choose);
     ~MessageBoxAnswer() override;
     Q_DISABLE_COPY_MOVE(MessageBoxAnswer)
 
@@ -39,6 +45,6 @@ public:
 private:
     void answer(QMessageBox &box);
 
-    QStringList m_answers;
+    Choose m_choose;
     QList<ShownBox> m_shown;
 };

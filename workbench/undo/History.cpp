@@ -1,6 +1,7 @@
 #include "workbench/undo/History.h"
 
 #include "documents/DictionaryCopy.h"
+#include "model/PreOrder.h"
 #include "model/TDcEntity.h"
 #include "workbench/operations/Places.h"
 
@@ -21,6 +22,14 @@ History::Extent extentOf(const QList<DictionaryChange> &changes)
             && change.kind != Kind::Renamed;
     });
     return structure ? History::Extent::Structure : History::Extent::Content;
+}
+
+/// Which of \a entity and those below are selectable, in pre-order.
+QList<bool> selectable(TDcEntity *entity)
+{
+    QList<bool> marks;
+    preOrder(entity, [&marks](const TDcEntity *node) { marks.append(node->getSelectable()); });
+    return marks;
 }
 } // namespace
 
@@ -64,8 +73,14 @@ void History::start(const TDcEntity &root)
 bool History::record(TDcEntity &root, const QString &text, TDcEntity *entity)
 {
     using Scope = DictionaryDifference::Scope;
-    const Rows rows = entity ? Places::rowsOf(&root, entity) : Rows();
+    Rows rows = entity ? Places::rowsOf(&root, entity) : Rows();
     TDcEntity *before = Places::at(m_shadow.get(), rows);
+    // Who takes the mark or the reference code away from an entity takes the marks of those below away, too.
+    if (entity && selectable(before) != selectable(entity)) {
+        rows.clear();
+        entity = nullptr;
+        before = m_shadow.get();
+    }
     const auto difference = entity ? DictionaryDifference::between(*before, *entity, Scope::WithoutChildren)
                                    : DictionaryDifference::between(*before, root);
     if (difference.isEmpty())

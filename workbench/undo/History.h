@@ -40,8 +40,8 @@ public:
     /// The dictionary as it was after the last step, without what is being done to it right now.
     [[nodiscard]] const TDcEntity &committed() const { return *m_shadow; }
     /// Pushes one step from the shadow to \a root, called \a text, or after what changed if \a text is empty.
-    /// If \a entity is not null, only its properties and variables are looked at. False, and no step, if
-    /// nothing changed.
+    /// If \a entity is not null, only its properties and variables are looked at, and which entities below it
+    /// are selectable. False, and no step, if nothing changed.
     bool record(TDcEntity &root, const QString &text, TDcEntity *entity = nullptr);
 
 private:
