@@ -55,6 +55,7 @@ MainWindow::MainWindow(QWidget *parent)
     resize(plainSize);
 
     m_actions.place(this);
+    finishEditingFirst();
     m_files = new FileCommands({&m_document, &m_selection, &m_actions, this}, this);
     m_runs = new RunCommands({&m_document, &m_selection, &m_actions, this}, this);
     m_recovery =
@@ -80,6 +81,9 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
+    // An open editor hands over what stands in it while there is somebody to take it.
+    if (QWidget *focus = focusWidget())
+        focus->clearFocus();
     // The panels look at document and selection, which are members and so would go first.
     const QList<QWidget *> panels = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
     qDeleteAll(panels);
@@ -154,16 +158,24 @@ QDockWidget *MainWindow::addDock(const QString &title, const QString &objectName
     return dock;
 }
 
+void MainWindow::finishEditingFirst()
+{
+    // What is typed but not entered yet is entered before anything else happens, or it would be forgotten.
+    const QList<QAction *> actions = m_actions.all();
+    for (const QAction *action : actions) {
+        // These two belong to whoever types.
+        if (action != m_actions[ActionId::EditCopy] && action != m_actions[ActionId::EditPaste])
+            connect(action, &QAction::triggered, this, [this] { Widgets::finishEditing(this); });
+    }
+}
+
 void MainWindow::addUndo()
 {
     QUndoStack *stack = m_document.undoStack();
     // What is typed but not entered yet is entered first, and so is undone before anything else.
     QAction *undo = m_actions[ActionId::EditUndo];
     QAction *redo = m_actions[ActionId::EditRedo];
-    connect(undo, &QAction::triggered, this, [this, stack] {
-        Widgets::finishEditing(this);
-        stack->undo();
-    });
+    connect(undo, &QAction::triggered, stack, &QUndoStack::undo);
     connect(redo, &QAction::triggered, stack, &QUndoStack::redo);
     connect(stack, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
     connect(stack, &QUndoStack::canRedoChanged, redo, &QAction::setEnabled);

@@ -49,6 +49,7 @@ private:
     QDockWidget *addDock(const QString &title, const QString &objectName, QWidget *panel,
                          Qt::DockWidgetArea area);
     QDockWidget *addProblems(const Workspace &workspace, Inspector *inspector);
+    void finishEditingFirst();
     void addUndo();
     void addAbout();
     void updateTitle();

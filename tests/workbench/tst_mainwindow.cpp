@@ -5,6 +5,7 @@
 #include "workbench/MainWindow.h"
 #include "workbench/operations/Places.h"
 #include "workbench/panels/EntityTreePanel.h"
+#include "workbench/panels/VariableForm.h"
 #include "workbench/panels/VariableTablePanel.h"
 
 #include <QAbstractSpinBox>
@@ -32,6 +33,10 @@ private Q_SLOTS:
     void cleanup();
 
     void worksByKeyboardAlone();
+    void entersWhatIsTypedBeforeAnAction_data();
+    void entersWhatIsTypedBeforeAnAction();
+    void goesOnInTheTableAfterAnAction();
+    void goesWithAnOpenEditor();
     void namesTheStepInTheMenu();
     void asksBeforeWorkIsLost_data();
     void asksBeforeWorkIsLost();
@@ -104,6 +109,58 @@ void TestMainWindow::worksByKeyboardAlone()
 
     QTest::keyClick(m_window.get(), Qt::Key_L, Qt::ControlModifier);
     QCOMPARE(QApplication::focusWidget(), table->filterField());
+}
+
+void TestMainWindow::entersWhatIsTypedBeforeAnAction_data()
+{
+    QTest::addColumn<ActionId>("id");
+    QTest::addRow("add a variable") << ActionId::VariableAdd;
+    QTest::addRow("add a value label") << ActionId::LabelAdd;
+    QTest::addRow("add an entity") << ActionId::EntityAdd;
+    QTest::addRow("save") << ActionId::FileSave;
+}
+
+void TestMainWindow::entersWhatIsTypedBeforeAnAction()
+{
+    QFETCH(const ActionId, id);
+    QVERIFY(m_window->files()->open(sample()));
+    m_window->document()->root()->setLabel(u"Changed"_s);
+    m_window->document()->commit();
+    TDcVariable *variable = m_window->selection()->variable();
+    auto *field = m_window->findChild<VariableForm *>()->findChild<QLineEdit *>();
+    QCOMPARE(field->text(), u"SEX"_s);
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, u"GENDER"_s);
+    (*m_window->actions())[id]->trigger();
+    QCOMPARE(variable->getName(), u"GENDER"_s);
+}
+
+void TestMainWindow::goesOnInTheTableAfterAnAction()
+{
+    QVERIFY(m_window->files()->open(sample()));
+    m_window->document()->root()->setLabel(u"Changed"_s);
+    m_window->document()->commit();
+    QTableView *view = m_window->findChild<VariableTablePanel *>()->view();
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_F2);
+    QWidget *editor = QApplication::focusWidget();
+    QVERIFY(qobject_cast<QLineEdit *>(editor));
+    QTest::keyClicks(editor, u"GENDER"_s);
+    QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(Places::findVariable(m_window->document()->root(), u"GENDER"_s));
+    QVERIFY(!m_window->isWindowModified());
+    QCOMPARE(QApplication::focusWidget(), view);
+}
+
+void TestMainWindow::goesWithAnOpenEditor()
+{
+    QVERIFY(m_window->files()->open(sample()));
+    (*m_window->actions())[ActionId::LabelAdd]->trigger();
+    QWidget *editor = QApplication::focusWidget();
+    QVERIFY(qobject_cast<QLineEdit *>(editor));
+    QTest::keyClicks(editor, u"12"_s);
+    m_window.reset(); // What the editor would write to goes before it.
 }
 
 void TestMainWindow::namesTheStepInTheMenu()

@@ -73,7 +73,8 @@ void EntityTreePanel::forgetTree()
     QList<QModelIndex> pending{QModelIndex()};
     while (!pending.isEmpty()) {
         const QModelIndex node = pending.takeLast();
-        if (node.isValid() && !m_view->isExpanded(node))
+        // A leaf is never expanded, and may have children when the tree is back.
+        if (node.isValid() && m_proxy->hasChildren(node) && !m_view->isExpanded(node))
             m_collapsed.insert(node.internalPointer());
         for (int row = 0; row < m_proxy->rowCount(node); ++row)
             pending.append(m_proxy->index(row, 0, node));

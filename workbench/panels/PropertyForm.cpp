@@ -49,6 +49,7 @@ QLineEdit *PropertyForm::text(const QString &name, Get<QString> get, Set<QString
 {
     auto *field = new QLineEdit(this);
     field->setAccessibleName(name);
+    field->setMaxLength(std::numeric_limits<int>::max()); // Nothing is cut by being shown.
     connect(field, &QLineEdit::editingFinished, this, [=, this] { write(field->text(), get, set); });
     m_refreshers.append([=] {
         if (field->text() != get()) {
@@ -67,12 +68,14 @@ QPlainTextEdit *PropertyForm::longText(const QString &name, Get<QString> get, Se
     field->setMinimumHeight(field->fontMetrics().lineSpacing() * 3 + 12);
     field->installEventFilter(this);
     connect(this, &PropertyForm::focusLeft, field, [=, this](QObject *left) {
-        if (left == field)
+        // Line ends and hard blanks come back otherwise than they went in; that is no edit.
+        if (left == field && field->document()->isModified())
             write(field->toPlainText(), get, set);
     });
     m_refreshers.append([=] {
         if (field->toPlainText() != get())
             field->setPlainText(get());
+        field->document()->setModified(false);
     });
     return field;
 }
@@ -115,7 +118,11 @@ QComboBox *PropertyForm::choice(const QString &name, const QList<QString> &choic
     const auto take = [=, this] { write(field->currentText(), get, set); };
     connect(field->lineEdit(), &QLineEdit::editingFinished, this, take);
     connect(field, &QComboBox::activated, this, take);
-    m_refreshers.append([=] { field->setEditText(get()); });
+    m_refreshers.append([=] {
+        // The arrow keys go on from here.
+        field->setCurrentIndex(field->findText(get(), Qt::MatchFixedString));
+        field->setEditText(get());
+    });
     return field;
 }
 

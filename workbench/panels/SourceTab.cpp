@@ -47,6 +47,9 @@ SourceTab::SourceTab(const QString &name, QSortFilterProxyModel *proxy, const QL
     connect(filter, &QLineEdit::textChanged, this, [this](const QString &text) {
         m_proxy->setFilterRegularExpression(QRegularExpression(QRegularExpression::escape(text.trimmed()),
                                                                QRegularExpression::CaseInsensitiveOption));
+        // What was selected may be out of sight now.
+        if (!m_view->selectionModel()->hasSelection() && m_proxy->rowCount() > 0)
+            m_view->selectRow(qMax(0, m_view->currentIndex().row()));
     });
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SourceTab::selectionChanged);

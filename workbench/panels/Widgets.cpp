@@ -149,6 +149,9 @@ void Widgets::finishEditing(const QWidget *window)
     if (!window || !focus || !window->isAncestorOf(focus))
         return;
     focus->clearFocus();
+    // The editor of a cell is closed now, and its table goes on.
+    while (!focus->isVisible() && focus->parentWidget())
+        focus = focus->parentWidget();
     focus->setFocus();
 }
 

@@ -1,0 +1,252 @@
+#include "common/Constants.h"
+#include "model/MetadataVariables.h"
+#include "tests/workbench/Bench.h"
+#include "workbench/panels/EmptyText.h"
+#include "workbench/panels/RangesPanel.h"
+
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTableView>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+// What the table of ranges has in common with that of value labels is tried there.
+class TestRangesPanel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void saysInWordsThatThereAreNone();
+    void makesALayoutForTheFirstRange();
+    void editsWithTheSpinBoxOfTheType_data();
+    void editsWithTheSpinBoxOfTheType();
+    void followsAChangeOfTheType();
+    void eachVariableHasItsOwnEditor();
+    void removesSeveral();
+    void movesAndUndoes();
+    void doesNotMoveWhileSorted();
+    void leavesDeleteToAnEditor();
+    void isOffWithoutAVariable();
+
+private:
+    [[nodiscard]] QStringList held() const;
+    [[nodiscard]] QStringList shown() const;
+    [[nodiscard]] QAction *action(ActionId id) const { return m_bench->actions[id]; }
+    [[nodiscard]] QAbstractSpinBox *editor() const
+    {
+        return m_panel->view()->findChild<QAbstractSpinBox *>();
+    }
+    void fill(const QList<double> &bounds);
+
+    std::unique_ptr<Bench> m_bench;
+    std::unique_ptr<RangesPanel> m_panel;
+};
+
+void TestRangesPanel::init()
+{
+    m_bench = std::make_unique<Bench>();
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    m_bench->variable(u"AGE"_s)->setVarType(Constants::typeInteger);
+    m_bench->document.commit();
+    m_bench->document.undoStack()->clear();
+    m_panel = std::make_unique<RangesPanel>(m_bench->workspace());
+    m_panel->resize(400, 300);
+    m_panel->show();
+    m_panel->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_panel.get()));
+    m_panel->view()->setFocus();
+}
+
+void TestRangesPanel::cleanup()
+{
+    m_panel->close(); // And with it an open editor.
+    m_panel.reset();
+    m_bench.reset();
+}
+
+QStringList TestRangesPanel::held() const
+{
+    const MetadataVariables *layout = m_bench->variable(u"AGE"_s)->getMetadataVariables();
+    QStringList rows;
+    for (const Range *range : layout ? *layout->getRange() : QList<Range *>())
+        rows.append(u"%1..%2"_s.arg(range->getRangeMin()).arg(range->getRangeMax()));
+    return rows;
+}
+
+QStringList TestRangesPanel::shown() const
+{
+    QStringList rows;
+    const QAbstractItemModel *model = m_panel->view()->model();
+    for (int row = 0; row < model->rowCount(); ++row)
+        rows.append(model->index(row, 0).data().toString() + u".."_s
+                    + model->index(row, 1).data().toString());
+    return rows;
+}
+
+/// Gives AGE a range from 0 up to each of \a bounds.
+void TestRangesPanel::fill(const QList<double> &bounds)
+{
+    auto *layout = new MetadataVariables;
+    for (double bound : bounds) {
+        layout->addItemRange(new Range);
+        layout->getRange()->last()->setRangeMax(bound);
+    }
+    m_bench->variable(u"AGE"_s)->setMetadataVariables(layout);
+    m_bench->document.commit();
+    m_bench->document.undoStack()->clear();
+}
+
+void TestRangesPanel::saysInWordsThatThereAreNone()
+{
+    QCOMPARE(static_cast<EmptyText<QTableView> *>(m_panel->view())->emptyText(),
+             u"No ranges: every value is valid."_s);
+    QVERIFY(!m_bench->variable(u"AGE"_s)->getMetadataVariables());
+}
+
+void TestRangesPanel::makesALayoutForTheFirstRange()
+{
+    QTest::keyClick(m_panel->view(), Qt::Key_Insert);
+    QCOMPARE(held(), QStringList({u"0..0"_s}));
+    QCOMPARE(m_bench->undoText(), u"Add Range of AGE"_s);
+    QTest::keyClick(editor(), Qt::Key_Escape);
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(held(), QStringList());
+    QCOMPARE(shown(), QStringList());
+    QVERIFY(!m_bench->variable(u"AGE"_s)->getMetadataVariables());
+    m_bench->document.undoStack()->redo();
+    QCOMPARE(shown(), QStringList({u"0..0"_s}));
+}
+
+void TestRangesPanel::editsWithTheSpinBoxOfTheType_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("stored");
+    QTest::addRow("whole number") << Constants::typeInteger << 0 << u"120"_s << 120.0;
+    QTest::addRow("negative") << Constants::typeInteger << 0 << u"-5"_s << -5.0;
+    QTest::addRow("two decimals unless said otherwise") << Constants::typeReal << 0 << u"2.75"_s << 2.75;
+    QTest::addRow("decimals of the variable") << Constants::typeReal << 4 << u"0.0625"_s << 0.0625;
+}
+
+void TestRangesPanel::editsWithTheSpinBoxOfTheType()
+{
+    QFETCH(const QString, type);
+    QFETCH(const int, decimals);
+    QFETCH(const QString, typed);
+    QFETCH(const double, stored);
+    TDcVariable *age = m_bench->variable(u"AGE"_s);
+    age->setVarType(type);
+    age->setDecimals(decimals);
+    fill({1});
+    QTableView *view = m_panel->view();
+    view->setCurrentIndex(view->model()->index(0, 1));
+    QTest::keyClick(view, Qt::Key_F2);
+    QAbstractSpinBox *box = editor();
+    QVERIFY(box);
+    box->selectAll();
+    QTest::keyClicks(box->findChild<QLineEdit *>(), typed);
+    QTest::keyClick(box, Qt::Key_Return);
+    QTRY_COMPARE(age->getMetadataVariables()->getRange()->first()->getRangeMax(), stored);
+    QCOMPARE(m_bench->document.undoStack()->count(), 1);
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(held(), QStringList({u"0..1"_s}));
+    QCOMPARE(shown(), QStringList({u"0..1"_s}));
+}
+
+void TestRangesPanel::followsAChangeOfTheType()
+{
+    fill({2.5});
+    QCOMPARE(shown(), QStringList({u"0..2"_s}));
+    m_bench->variable(u"AGE"_s)->setVarType(Constants::typeReal);
+    m_bench->document.commit();
+    QCOMPARE(shown(), QStringList({u"0..2.5"_s}));
+    m_panel->view()->edit(m_panel->view()->model()->index(0, 1));
+    QVERIFY(qobject_cast<QDoubleSpinBox *>(editor()));
+}
+
+void TestRangesPanel::eachVariableHasItsOwnEditor()
+{
+    m_bench->selection.select(u"PERSON/WAGE"_s);
+    m_bench->selection.variable()->setVarType(Constants::typeReal);
+    action(ActionId::RangeAdd)->trigger();
+    QVERIFY(qobject_cast<QDoubleSpinBox *>(editor()));
+    fill({1});
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    m_panel->view()->edit(m_panel->view()->model()->index(0, 0));
+    QTRY_VERIFY(qobject_cast<QSpinBox *>(editor()));
+}
+
+void TestRangesPanel::removesSeveral()
+{
+    fill({1, 2, 3});
+    m_panel->view()->selectAll();
+    QTest::keyClick(m_panel->view(), Qt::Key_Delete);
+    QCOMPARE(held(), QStringList());
+    QCOMPARE(m_bench->document.undoStack()->count(), 1);
+    QVERIFY(!action(ActionId::RangeRemove)->isEnabled());
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(shown(), QStringList({u"0..1"_s, u"0..2"_s, u"0..3"_s}));
+}
+
+void TestRangesPanel::movesAndUndoes()
+{
+    fill({1, 2, 3});
+    m_panel->view()->selectRow(2);
+    QVERIFY(!action(ActionId::RangeMoveDown)->isEnabled());
+    action(ActionId::RangeMoveUp)->trigger();
+    QCOMPARE(held(), QStringList({u"0..1"_s, u"0..3"_s, u"0..2"_s}));
+    QCOMPARE(m_panel->view()->currentIndex().row(), 1);
+    action(ActionId::RangeMoveUp)->trigger();
+    QCOMPARE(shown(), QStringList({u"0..3"_s, u"0..1"_s, u"0..2"_s}));
+    QVERIFY(!action(ActionId::RangeMoveUp)->isEnabled());
+    m_bench->document.undoStack()->setIndex(0);
+    QCOMPARE(shown(), QStringList({u"0..1"_s, u"0..2"_s, u"0..3"_s}));
+    m_bench->document.undoStack()->setIndex(2);
+    QCOMPARE(shown(), QStringList({u"0..3"_s, u"0..1"_s, u"0..2"_s}));
+}
+
+void TestRangesPanel::doesNotMoveWhileSorted()
+{
+    fill({10, 9, 100});
+    m_panel->view()->sortByColumn(1, Qt::AscendingOrder);
+    QCOMPARE(shown(), QStringList({u"0..9"_s, u"0..10"_s, u"0..100"_s}));
+    m_panel->view()->selectRow(1);
+    QVERIFY(!action(ActionId::RangeMoveUp)->isEnabled());
+    QVERIFY(!action(ActionId::RangeMoveDown)->isEnabled());
+    m_panel->view()->sortByColumn(-1, Qt::AscendingOrder);
+    QCOMPARE(shown(), QStringList({u"0..10"_s, u"0..9"_s, u"0..100"_s}));
+    m_panel->view()->selectRow(1);
+    QVERIFY(action(ActionId::RangeMoveUp)->isEnabled());
+}
+
+void TestRangesPanel::leavesDeleteToAnEditor()
+{
+    fill({12});
+    m_panel->view()->setCurrentIndex(m_panel->view()->model()->index(0, 1));
+    QTest::keyClick(m_panel->view(), Qt::Key_F2);
+    QVERIFY(editor());
+    auto *line = editor()->findChild<QLineEdit *>();
+    line->setCursorPosition(0);
+    QTest::keyClick(line, Qt::Key_Delete);
+    QCOMPARE(line->text(), u"2"_s);
+    QCOMPARE(held(), QStringList({u"0..12"_s}));
+}
+
+void TestRangesPanel::isOffWithoutAVariable()
+{
+    fill({12});
+    m_bench->selection.select(u"DEATH"_s);
+    QCOMPARE(shown(), QStringList());
+    for (ActionId id :
+         {ActionId::RangeAdd, ActionId::RangeRemove, ActionId::RangeMoveUp, ActionId::RangeMoveDown})
+        QVERIFY(!action(id)->isEnabled());
+}
+
+QTEST_MAIN(TestRangesPanel)
+#include "tst_rangespanel.moc"

@@ -1,0 +1,320 @@
+#include "documents/DictionaryCopy.h"
+#include "documents/DictionaryDifference.h"
+#include "model/MetadataVariables.h"
+#include "tests/support/MessageBoxAnswer.h"
+#include "tests/workbench/Bench.h"
+#include "workbench/panels/VariableForm.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestVariableForm : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void writesEachProperty_data();
+    void writesEachProperty();
+    void makesALayoutWhenItIsNeeded();
+    void aRefusedTextLeavesTheFieldAsItWas_data();
+    void aRefusedTextLeavesTheFieldAsItWas();
+    void renamingTheReferenceCodeAsks_data();
+    void renamingTheReferenceCodeAsks();
+    void choosesTypesByKey();
+    void takesAnyOtherType();
+    void showsAnyNumber();
+    void showsWhatWasUndone();
+    void showsNothingWithoutAVariable();
+    void forgetsWhatIsTypedWhenTheVariableGoes();
+
+private:
+    template <typename Control>
+    [[nodiscard]] Control *control(const QString &name) const
+    {
+        const QList<Control *> all = m_form->findChildren<Control *>();
+        for (Control *one : all) {
+            if (one->accessibleName() == name)
+                return one;
+        }
+        return nullptr;
+    }
+    [[nodiscard]] QUndoStack *stack() const { return m_bench->document.undoStack(); }
+    [[nodiscard]] TDcVariable *age() const { return m_bench->entity(u"PERSON"_s)->getVariables()->at(1); }
+    void type(QLineEdit *field, const QString &text);
+
+    std::unique_ptr<Bench> m_bench;
+    std::unique_ptr<VariableForm> m_form;
+};
+
+void TestVariableForm::init()
+{
+    m_bench = std::make_unique<Bench>();
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    m_form = std::make_unique<VariableForm>(m_bench->workspace());
+    m_form->resize(340, 600);
+    m_form->show();
+    m_form->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
+}
+
+void TestVariableForm::cleanup()
+{
+    m_form.reset();
+    m_bench.reset();
+}
+
+void TestVariableForm::type(QLineEdit *field, const QString &text)
+{
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, text);
+    QTest::keyClick(field, Qt::Key_Return);
+}
+
+void TestVariableForm::writesEachProperty_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("property");
+    for (const auto &[name, property] : {std::pair("Alias", "alias"),
+                                         {"Label", "label"},
+                                         {"Group", "group"},
+                                         {"Type", "type"},
+                                         {"Tag", "tag"},
+                                         {"Size", "size"},
+                                         {"Decimals", "decimals"},
+                                         {"Missing-value code", "missing code"},
+                                         {"Not-applicable code", "not-applicable code"},
+                                         {"Record", "record"},
+                                         {"Field", "field"},
+                                         {"Start", "start"},
+                                         {"Length", "length"},
+                                         {"Field size", "field size"},
+                                         {"Field position", "position"},
+                                         {"File name", "file name"},
+                                         {"Lookup", "lookup"},
+                                         {"Local", "local"},
+                                         {"Documentation", "documentation"}}) {
+        QTest::addRow("%s", name) << QString::fromLatin1(name) << QString::fromLatin1(property);
+    }
+}
+
+void TestVariableForm::writesEachProperty()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, property);
+    age()->setMetadataVariables(new MetadataVariables);
+    m_bench->document.commit();
+    stack()->clear();
+    const auto before = DictionaryCopy::copy(*m_bench->document.root());
+    QVariant expected(u"ABC"_s);
+    if (auto *number = control<QSpinBox>(name)) {
+        number->setFocus();
+        number->selectAll();
+        QTest::keyClicks(number, u"47"_s);
+        QTest::keyClick(number, Qt::Key_Return);
+        expected = 47;
+    } else if (auto *choice = control<QComboBox>(name)) {
+        type(choice->lineEdit(), u"ABC"_s);
+    } else if (auto *line = control<QLineEdit>(name)) {
+        type(line, u"ABC"_s);
+    } else if (auto *text = control<QPlainTextEdit>(name)) {
+        text->setFocus();
+        QTest::keyClicks(text, u"ABC"_s);
+        QTest::keyClick(text, Qt::Key_Backtab);
+    } else {
+        auto *box = control<QCheckBox>(name);
+        QVERIFY(box);
+        box->click();
+        expected = true;
+    }
+    const QList<DictionaryChange> changes =
+        DictionaryDifference::between(*before, *m_bench->document.root()).changes();
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(changes.first().path, u"CENSUS/HOUSEHOLD/PERSON/AGE"_s);
+    QCOMPARE(changes.first().property, property);
+    QCOMPARE(changes.first().after, expected);
+    QCOMPARE(stack()->count(), 1);
+    stack()->undo();
+    QVERIFY(DictionaryDifference::between(*before, *m_bench->document.root()).isEmpty());
+}
+
+void TestVariableForm::makesALayoutWhenItIsNeeded()
+{
+    QVERIFY(!age()->getMetadataVariables());
+    auto *field = control<QLineEdit>(u"Record"_s);
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Return);
+    QVERIFY(!age()->getMetadataVariables());
+    type(field, u"P"_s);
+    QVERIFY(age()->getMetadataVariables());
+    QCOMPARE(age()->getMetadataVariables()->getRecord(), u"P"_s);
+    stack()->undo();
+    QVERIFY(!age()->getMetadataVariables());
+    QCOMPARE(field->text(), QString());
+}
+
+void TestVariableForm::aRefusedTextLeavesTheFieldAsItWas_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("boxes");
+    QTest::addRow("no name") << u"Name"_s << u" "_s << 0;
+    QTest::addRow("sign in the name") << u"Name"_s << u"A-B"_s << 1;
+    QTest::addRow("name of an entity") << u"Name"_s << u"PERSON"_s << 1;
+    QTest::addRow("alias that is a name") << u"Alias"_s << u"WAGE"_s << 1;
+    QTest::addRow("group that is an entity") << u"Group"_s << u"DEATH"_s << 1;
+}
+
+void TestVariableForm::aRefusedTextLeavesTheFieldAsItWas()
+{
+    QFETCH(const QString, field);
+    QFETCH(const QString, typed);
+    QFETCH(const int, boxes);
+    const MessageBoxAnswer answer({u"OK"_s});
+    auto *line = control<QLineEdit>(field);
+    const QString before = line->text();
+    type(line, typed);
+    QCOMPARE(line->text(), before);
+    QCOMPARE(answer.shown().size(), boxes);
+    QCOMPARE(stack()->count(), 0);
+}
+
+void TestVariableForm::renamingTheReferenceCodeAsks_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<bool>("selectable");
+    QTest::addRow("yes") << u"Yes"_s << u"YEARS"_s << u"YEARS"_s << true;
+    QTest::addRow("no") << u"No"_s << u"YEARS"_s << QString() << false;
+    QTest::addRow("cancel") << u"Cancel"_s << u"AGE"_s << u"AGE"_s << true;
+}
+
+void TestVariableForm::renamingTheReferenceCodeAsks()
+{
+    QFETCH(const QString, answer);
+    QFETCH(const QString, name);
+    QFETCH(const QString, code);
+    QFETCH(const bool, selectable);
+    TDcEntity *person = m_bench->entity(u"PERSON"_s);
+    auto *below = new TDcEntity;
+    below->setName(u"JOB"_s);
+    below->setSelectable(true);
+    person->getChildren()->append(below);
+    person->setRefCode(u"AGE"_s);
+    person->setSelectable(true);
+    m_bench->document.commit();
+    stack()->clear();
+    const MessageBoxAnswer boxes({answer});
+    type(control<QLineEdit>(u"Name"_s), u"YEARS"_s);
+    QCOMPARE(boxes.shown().size(), 1);
+    const auto state = [&] {
+        return QStringList{age()->getName(), person->getRefCode(),
+                           person->getSelectable() ? u"on"_s : u"off"_s,
+                           below->getSelectable() ? u"on"_s : u"off"_s};
+    };
+    const QString mark = selectable ? u"on"_s : u"off"_s;
+    QCOMPARE(state(), QStringList({name, code, mark, mark}));
+    QCOMPARE(control<QLineEdit>(u"Name"_s)->text(), name);
+    // With all that follows from it, the entities below included, it is one step.
+    QVERIFY(stack()->count() <= 1);
+    stack()->undo();
+    QCOMPARE(state(), QStringList({u"AGE"_s, u"AGE"_s, u"on"_s, u"on"_s}));
+    stack()->redo();
+    QCOMPARE(state(), QStringList({name, code, mark, mark}));
+    QCOMPARE(boxes.shown().size(), 1);
+}
+
+void TestVariableForm::choosesTypesByKey()
+{
+    age()->setVarType(u"string"_s);
+    m_bench->document.commit();
+    auto *types = control<QComboBox>(u"Type"_s);
+    const int row = types->currentIndex();
+    QCOMPARE(types->itemText(row).toLower(), u"string"_s);
+    QCOMPARE(types->currentText(), u"string"_s);
+    types->setFocus();
+    QTest::keyClick(types, Qt::Key_Up);
+    QCOMPARE(age()->getVarType(), types->itemText(row - 1));
+}
+
+void TestVariableForm::takesAnyOtherType()
+{
+    auto *types = control<QComboBox>(u"Type"_s);
+    type(types->lineEdit(), u"date"_s);
+    QCOMPARE(age()->getVarType(), u"date"_s);
+    QCOMPARE(types->findText(u"date"_s), -1);
+    m_bench->selection.select(u"PERSON/SEX"_s);
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    QCOMPARE(types->currentText(), u"date"_s);
+    types->setFocus();
+    types->clearFocus();
+    QCOMPARE(age()->getVarType(), u"date"_s);
+}
+
+void TestVariableForm::showsAnyNumber()
+{
+    age()->setTag(-7);
+    age()->setSize(std::numeric_limits<int>::max());
+    age()->setMissing(std::numeric_limits<int>::min());
+    m_bench->document.commit();
+    for (const QString &name : {u"Tag"_s, u"Size"_s, u"Missing-value code"_s}) {
+        control<QSpinBox>(name)->setFocus();
+        QTest::keyClick(control<QSpinBox>(name), Qt::Key_Return);
+    }
+    QCOMPARE(stack()->count(), 1);
+    QCOMPARE(age()->getTag(), -7);
+    QCOMPARE(control<QSpinBox>(u"Missing-value code"_s)->value(), std::numeric_limits<int>::min());
+}
+
+void TestVariableForm::showsWhatWasUndone()
+{
+    type(control<QLineEdit>(u"Label"_s), u"Years"_s);
+    type(control<QLineEdit>(u"Field"_s), u"P3"_s);
+    type(control<QComboBox>(u"Type"_s)->lineEdit(), u"date"_s);
+    stack()->setIndex(0);
+    QCOMPARE(control<QLineEdit>(u"Label"_s)->text(), u"Age"_s);
+    QCOMPARE(control<QLineEdit>(u"Field"_s)->text(), QString());
+    QCOMPARE(control<QComboBox>(u"Type"_s)->currentText(), QString());
+    stack()->setIndex(3);
+    QCOMPARE(control<QLineEdit>(u"Label"_s)->text(), u"Years"_s);
+    QCOMPARE(control<QLineEdit>(u"Field"_s)->text(), u"P3"_s);
+    QCOMPARE(control<QComboBox>(u"Type"_s)->currentText(), u"date"_s);
+}
+
+void TestVariableForm::showsNothingWithoutAVariable()
+{
+    const auto *pages = m_form->findChild<QStackedWidget *>();
+    QCOMPARE(pages->currentIndex(), 1);
+    m_bench->selection.select(u"DEATH"_s);
+    QCOMPARE(pages->currentIndex(), 0);
+    m_bench->selection.select(u"PERSON/SEX"_s);
+    QCOMPARE(pages->currentIndex(), 1);
+    QCOMPARE(control<QLineEdit>(u"Name"_s)->text(), u"SEX"_s);
+}
+
+void TestVariableForm::forgetsWhatIsTypedWhenTheVariableGoes()
+{
+    auto *field = control<QLineEdit>(u"Label"_s);
+    field->setFocus();
+    QTest::keyClicks(field, u"X"_s);
+    m_bench->document.edit(u"removing"_s, [this] { // Would write to what is gone.
+        delete m_bench->entity(u"PERSON"_s)->getVariables()->takeAt(1);
+    });
+    QCOMPARE(field->text(), u"Monthly wage"_s);
+    field->clearFocus();
+    QCOMPARE(stack()->count(), 1);
+}
+
+QTEST_MAIN(TestVariableForm)
+#include "tst_variableform.moc"
