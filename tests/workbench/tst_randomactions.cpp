@@ -26,6 +26,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QMimeData>
@@ -97,6 +98,7 @@ private:
     void importFields();
     void importLookups();
     void paste();
+    void useDialog(ActionId id, const QString &name);
 
     MainWindow &m_window;
     QRandomGenerator m_random;
@@ -139,6 +141,9 @@ QString RandomPerson::act()
         {"import fields", [this] { importFields(); }},
         {"import lookups", [this] { importLookups(); }},
         {"paste", [this] { paste(); }},
+        {"edit together", [this] { useDialog(ActionId::VariableEditTogether, u"editTogetherDialog"_s); }},
+        {"copy values", [this] { useDialog(ActionId::ValuesCopyTo, u"copyValuesDialog"_s); }},
+        {"label sets", [this] { useDialog(ActionId::ValuesLabelSets, u"labelSetsDialog"_s); }},
         {"undo", [this] { trigger(ActionId::EditUndo); }},
         {"redo", [this] { trigger(ActionId::EditRedo); }},
     };
@@ -313,6 +318,42 @@ void RandomPerson::paste()
     QApplication::clipboard()->setText(lines.join(u'\n'));
     oneOf(views)->setFocus();
     trigger(ActionId::EditPaste);
+}
+
+void RandomPerson::useDialog(ActionId id, const QString &name)
+{
+    trigger(id);
+    auto *dialog = m_window.findChild<QDialog *>(name);
+    if (!dialog)
+        return;
+    const auto *end = dialog->findChild<QDialogButtonBox *>();
+    for (int i = 1 + below(6); i > 0; --i) {
+        const QList<QWidget *> controls = dialog->findChildren<QWidget *>();
+        QWidget *control = oneOf(controls);
+        auto *button = qobject_cast<QAbstractButton *>(control);
+        if (button && !end->isAncestorOf(button))
+            button->click();
+        else if (auto *line = qobject_cast<QLineEdit *>(control); line && !line->isReadOnly())
+            line->setText(word());
+    }
+    if (auto *view = dialog->findChild<QAbstractItemView *>(); view && view->model()->rowCount() > 0) {
+        const QModelIndex index = view->model()->index(below(view->model()->rowCount()), 0);
+        view->setCurrentIndex(index);
+        view->model()->setData(index, Qt::Checked, Qt::CheckStateRole);
+    }
+    if (auto *table = dialog->findChild<QTableView *>(); table && below(2))
+        typeIntoTable(table);
+    // The one that writes, of whatever name.
+    const QList<QAbstractButton *> ends = end->buttons();
+    const auto writes = std::find_if(ends.cbegin(), ends.cend(), [end](QAbstractButton *button) {
+        const auto role = end->buttonRole(button);
+        return role == QDialogButtonBox::AcceptRole || role == QDialogButtonBox::ApplyRole;
+    });
+    QAbstractButton *ok = writes == ends.cend() ? nullptr : *writes;
+    if (ok && ok->isEnabled() && below(4))
+        ok->click();
+    if (dialog->isVisible())
+        dialog->reject();
 }
 
 /// What is wrong with what is selected; empty when nothing is.
