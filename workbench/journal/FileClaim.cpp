@@ -7,9 +7,11 @@
 #include <QFileInfo>
 #include <QLockFile>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
-FileClaim::FileClaim(const QString &folder) : m_folder(folder) { }
+FileClaim::FileClaim(QString folder) : m_folder(std::move(folder)) { }
 
 FileClaim::~FileClaim() = default;
 

@@ -11,7 +11,7 @@ class FileClaim
 {
 public:
     /// Claims are kept in \a folder, which all instances share.
-    explicit FileClaim(const QString &folder);
+    explicit FileClaim(QString folder);
     ~FileClaim();
     Q_DISABLE_COPY_MOVE(FileClaim)
 

@@ -14,8 +14,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-Journal::Journal(Document *document, const QString &folder, Pace pace, QObject *parent)
-    : QObject(parent), m_document(document), m_folder(folder), m_pace(pace)
+Journal::Journal(Document *document, QString folder, Pace pace, QObject *parent)
+    : QObject(parent), m_document(document), m_folder(std::move(folder)), m_pace(pace)
 {
     m_quiet.setSingleShot(true);
     m_longest.setSingleShot(true);

@@ -30,7 +30,7 @@ public:
     };
 
     /// \a document is not owned and must outlive the journal.
-    Journal(Document *document, const QString &folder, Pace pace, QObject *parent = nullptr);
+    Journal(Document *document, QString folder, Pace pace, QObject *parent = nullptr);
     /// Writes what is not written yet.
     ~Journal() override;
     Q_DISABLE_COPY_MOVE(Journal)
