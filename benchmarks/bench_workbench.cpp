@@ -1,5 +1,5 @@
 // The variable table of the workbench with 50,000 variables, against a plain view, proxy and
-// QStandardItemModel that hold the same texts: typing into the filter, scrolling, sorting.
+// QStandardItemModel that hold the same texts and icons: typing into the filter, scrolling, sorting.
 #include "benchmarks/GeneratedDictionary.h"
 #include "benchmarks/InTurn.h"
 #include "workbench/Actions.h"
@@ -10,6 +10,7 @@
 #include "workbench/Workspace.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -57,8 +58,12 @@ public:
     Plain(const QAbstractItemModel &texts) : m_model(texts.rowCount(), texts.columnCount())
     {
         for (int row = 0; row < texts.rowCount(); ++row) {
-            for (int column = 0; column < texts.columnCount(); ++column)
-                m_model.setItem(row, column, new QStandardItem(texts.index(row, column).data().toString()));
+            for (int column = 0; column < texts.columnCount(); ++column) {
+                const QModelIndex cell = texts.index(row, column);
+                m_model.setItem(
+                    row, column,
+                    new QStandardItem(cell.data(Qt::DecorationRole).value<QIcon>(), cell.data().toString()));
+            }
         }
         m_proxy.setSourceModel(&m_model);
         m_proxy.setFilterKeyColumn(-1);

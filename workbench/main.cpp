@@ -10,6 +10,7 @@
 #include <QIcon>
 #include <QLoggingCategory>
 #include <QPixmap>
+#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -76,6 +77,12 @@ int main(int argc, char *argv[])
     Theme::apply(line.theme);
     Translations::install(line.language);
 
+    // Pictures show nothing of a person's settings and unsaved work, and leave nothing there.
+    const QTemporaryDir home;
+    if (line.isForPictures()) {
+        for (const char *place : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"})
+            qputenv(place, home.path().toLocal8Bit());
+    }
     MainWindow window;
     if (line.isForPictures())
         window.setPlainLayout(); // A picture shows the layout that everybody starts with.

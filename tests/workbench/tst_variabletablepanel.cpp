@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void duplicates();
     void togglesRoles();
     void keepsColumnWidths();
+    void keepsItsPlaceWhenTheStructureChanges();
     void alwaysHasACurrentIndex();
 
 private:
@@ -217,6 +219,28 @@ void TestVariableTablePanel::keepsColumnWidths()
     m_bench->selection.select(u"PERSON"_s);
     m_bench->actions[ActionId::VariableRemove]->trigger();
     QCOMPARE(m_panel->view()->columnWidth(0), 123);
+}
+
+void TestVariableTablePanel::keepsItsPlaceWhenTheStructureChanges()
+{
+    TDcEntity *person = m_bench->selection.entity();
+    m_bench->document.edit(u"filling"_s, [person] {
+        for (int number = 0; number < 200; ++number)
+            person->addVariables(makeVariable(u"V%1"_s.arg(number)));
+    });
+    m_bench->selection.select(u"PERSON/V100"_s);
+    QScrollBar *bar = m_panel->view()->verticalScrollBar();
+    bar->setValue(bar->value() + 3);
+    const int before = bar->value();
+    QVERIFY(before > 0);
+    m_bench->document.edit(u"adding"_s, [person] { person->addVariables(makeVariable(u"LAST"_s)); });
+    QCOMPARE(bar->value(), before);
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(bar->value(), before);
+    // Another entity starts at its beginning.
+    m_bench->selection.select(u"DEATH"_s);
+    m_bench->selection.select(u"PERSON/SEX"_s);
+    QCOMPARE(bar->value(), 0);
 }
 
 void TestVariableTablePanel::alwaysHasACurrentIndex()

@@ -43,6 +43,7 @@ FindPanel::FindPanel(const Workspace &workspace, QWidget *parent)
     m_view->setModel(m_model);
     Widgets::setUpTable(m_view, tr("Found"));
     m_view->setSortingEnabled(false);
+    m_columns = std::make_unique<ColumnMemory>(m_view, u"find"_s);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_summary->setAccessibleName(tr("What was found"));
@@ -156,6 +157,7 @@ void FindPanel::showEvent(QShowEvent *event)
 
 void FindPanel::list(const Find &found)
 {
+    m_columns->take();
     m_model->clear();
     m_model->setHorizontalHeaderLabels({tr("Found"), tr("In"), tr("Place")});
     m_hits = found.hits;
@@ -164,8 +166,10 @@ void FindPanel::list(const Find &found)
         match->setToolTip(hit.text);
         m_model->appendRow({match, new QStandardItem(Find::title(hit.part)), new QStandardItem(hit.place())});
     }
-    m_view->setColumnWidth(Match, 420);
-    m_view->setColumnWidth(What, 110);
+    if (!m_columns->restore()) {
+        m_view->setColumnWidth(Match, 420);
+        m_view->setColumnWidth(What, 110);
+    }
     if (!m_hits.isEmpty())
         m_view->setCurrentIndex(m_model->index(qBound(0, m_row, int(m_hits.size()) - 1), Match));
 

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "workbench/operations/Find.h"
+#include "workbench/panels/ColumnMemory.h"
 #include "workbench/Workspace.h"
 
 #include <QList>
 #include <QTimer>
 #include <QWidget>
 
+#include <memory>
 #include <utility>
 
 class QBoxLayout;
@@ -67,4 +69,5 @@ private:
     int m_row = -1; // The hit that was gone to last; -1 before the first.
     bool m_stale = false; // What is shown was searched for before the last change.
     QTimer m_quiet;
+    std::unique_ptr<ColumnMemory> m_columns;
 };

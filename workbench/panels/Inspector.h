@@ -15,6 +15,8 @@ class Inspector : public QSplitter
 
 public:
     explicit Inspector(const Workspace &workspace, QWidget *parent = nullptr);
+    ~Inspector() override;
+    Q_DISABLE_COPY_MOVE(Inspector)
 
     [[nodiscard]] VariableForm *form() const { return m_form; }
     [[nodiscard]] ValueLabelsPanel *valueLabels() const { return m_valueLabels; }

@@ -15,13 +15,14 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-ItemsPanel::ItemsPanel(const Workspace &workspace, const QString &title, QSortFilterProxyModel *proxy,
-                       Buttons buttons, QWidget *parent)
+ItemsPanel::ItemsPanel(const Workspace &workspace, const QString &name, const QString &title,
+                       QSortFilterProxyModel *proxy, Buttons buttons, QWidget *parent)
     : QWidget(parent), m_workspace(workspace), m_buttons(buttons), m_title(new QLabel(title, this)),
       m_proxy(proxy)
 {
     auto *table = new EmptyText<QTableView>(this);
     m_view = table;
+    m_columns = std::make_unique<ColumnMemory>(m_view, name);
     Widgets::setUpTable(m_view, title);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_proxy->setParent(this);
@@ -56,7 +57,6 @@ ItemsPanel::ItemsPanel(const Workspace &workspace, const QString &title, QSortFi
 
 void ItemsPanel::start()
 {
-    static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(emptyText());
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ItemsPanel::updateActions);
     connect(m_view->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &ItemsPanel::updateActions);
@@ -88,8 +88,10 @@ void ItemsPanel::showVariable()
     const QModelIndex before = m_view->currentIndex();
     const bool same = m_variable && m_variable == m_workspace.selection->variable();
     m_variable = m_workspace.selection->variable();
+    // Without a variable there is nothing to say about its items.
+    static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(m_variable ? emptyText() : QString());
     if (m_model)
-        m_header = m_view->horizontalHeader()->saveState();
+        m_columns->take();
     m_proxy->setSourceModel(nullptr);
     delete m_model;
     m_model = m_variable ? createModel(m_variable) : nullptr;
@@ -100,10 +102,8 @@ void ItemsPanel::showVariable()
             const QScopedValueRollback committing(m_committing, true);
             m_workspace.document->commit({}, m_workspace.selection->entity());
         });
-        if (m_header.isEmpty())
+        if (!m_columns->restore())
             m_view->setColumnWidth(0, 90);
-        else
-            m_view->horizontalHeader()->restoreState(m_header);
         if (m_proxy->rowCount() > 0) {
             const int row = same ? qBound(0, before.row(), m_proxy->rowCount() - 1) : 0;
             m_view->setCurrentIndex(m_proxy->index(row, qMax(0, before.column())));

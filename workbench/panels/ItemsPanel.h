@@ -1,10 +1,13 @@
 #pragma once
 
 #include "workbench/Actions.h"
+#include "workbench/panels/ColumnMemory.h"
 #include "workbench/Workspace.h"
 
 #include <QList>
 #include <QWidget>
+
+#include <memory>
 
 class QAbstractItemModel;
 class QLabel;
@@ -31,8 +34,9 @@ public:
     void select(const QList<void *> &items);
 
 protected:
-    ItemsPanel(const Workspace &workspace, const QString &title, QSortFilterProxyModel *proxy,
-               Buttons buttons, QWidget *parent);
+    /// \a name is the table's in the settings.
+    ItemsPanel(const Workspace &workspace, const QString &name, const QString &title,
+               QSortFilterProxyModel *proxy, Buttons buttons, QWidget *parent);
 
     /// To be called at the end of the derived constructor.
     void start();
@@ -64,6 +68,6 @@ private:
     QSortFilterProxyModel *m_proxy;
     QAbstractItemModel *m_model = nullptr; // Owned by the panel.
     TDcVariable *m_variable = nullptr; // Not owned.
-    QByteArray m_header; // The columns as a person left them.
+    std::unique_ptr<ColumnMemory> m_columns;
     bool m_committing = false; // An edit of the table itself is under way.
 };

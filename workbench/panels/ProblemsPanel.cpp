@@ -58,9 +58,12 @@ ProblemsPanel::ProblemsPanel(QWidget *parent)
     m_view->setModel(m_proxy);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_view->setColumnWidth(FindingsModel::SeverityColumn, 110);
-    m_view->setColumnWidth(FindingsModel::ProblemColumn, 420);
-    m_view->setColumnWidth(FindingsModel::PlaceColumn, 220);
+    m_columns = std::make_unique<ColumnMemory>(m_view, u"problems"_s);
+    if (!m_columns->restore()) {
+        m_view->setColumnWidth(FindingsModel::SeverityColumn, 110);
+        m_view->setColumnWidth(FindingsModel::ProblemColumn, 420);
+        m_view->setColumnWidth(FindingsModel::PlaceColumn, 220);
+    }
 
     auto *bar = new QHBoxLayout;
     bar->addWidget(m_summary, 1);

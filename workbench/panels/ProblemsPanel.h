@@ -1,9 +1,12 @@
 #pragma once
 
 #include "documents/checks/Finding.h"
+#include "workbench/panels/ColumnMemory.h"
 
 #include <QList>
 #include <QWidget>
+
+#include <memory>
 
 class FindingsModel;
 class QComboBox;
@@ -47,4 +50,5 @@ private:
     QComboBox *m_severities;
     QTableView *m_view;
     bool m_checking = false;
+    std::unique_ptr<ColumnMemory> m_columns;
 };

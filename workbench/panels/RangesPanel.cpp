@@ -9,6 +9,8 @@
 
 #include <QTableView>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace
 {
 QList<Range *> *rangesOf(TDcVariable *variable)
@@ -19,7 +21,7 @@ QList<Range *> *rangesOf(TDcVariable *variable)
 } // namespace
 
 RangesPanel::RangesPanel(const Workspace &workspace, QWidget *parent)
-    : ItemsPanel(workspace, tr("Ranges"), new VarRangeProxyModel(nullptr),
+    : ItemsPanel(workspace, u"ranges"_s, tr("Ranges"), new VarRangeProxyModel(nullptr),
                  {ActionId::RangeAdd, ActionId::RangeRemove, ActionId::RangeMoveUp, ActionId::RangeMoveDown},
                  parent)
 {

@@ -14,16 +14,17 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-SourceTab::SourceTab(const QString &name, QSortFilterProxyModel *proxy, const QList<QAction *> &actions,
-                     QWidget *parent)
+SourceTab::SourceTab(const QString &name, const QString &title, QSortFilterProxyModel *proxy,
+                     const QList<QAction *> &actions, QWidget *parent)
     : QWidget(parent), m_bar(new QHBoxLayout), m_proxy(proxy)
 {
     auto *table = new EmptyText<QTableView>(this);
     table->setEmptyText(tr("Open a file to list its fields here, then drag them onto the variables."));
     m_view = table;
+    m_columns = std::make_unique<ColumnMemory>(m_view, name);
     m_proxy->setParent(this);
     m_view->setModel(m_proxy);
-    Widgets::setUpTable(m_view, name);
+    Widgets::setUpTable(m_view, title);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setDragEnabled(true);
     m_view->setDragDropMode(QAbstractItemView::DragOnly);
@@ -37,7 +38,7 @@ SourceTab::SourceTab(const QString &name, QSortFilterProxyModel *proxy, const QL
         m_bar->addWidget(button);
         m_view->addAction(action);
     }
-    QLineEdit *filter = Widgets::filterField(tr("Filter %1").arg(name), tr("Filter"), this);
+    QLineEdit *filter = Widgets::filterField(tr("Filter %1").arg(title), tr("Filter"), this);
     m_bar->addWidget(filter, 1);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
@@ -58,6 +59,8 @@ SourceTab::SourceTab(const QString &name, QSortFilterProxyModel *proxy, const QL
 
 void SourceTab::setModel(QAbstractItemModel *model)
 {
+    if (m_model)
+        m_columns->take();
     m_proxy->setSourceModel(model);
     delete m_model;
     m_model = model;
@@ -65,7 +68,8 @@ void SourceTab::setModel(QAbstractItemModel *model)
         return;
     model->setParent(this);
     m_view->horizontalHeader()->setVisible(model->columnCount() > 1);
-    for (int column = 0; column + 1 < model->columnCount(); ++column)
+    const bool known = m_columns->restore();
+    for (int column = 0; !known && column + 1 < model->columnCount(); ++column)
         m_view->setColumnWidth(column, column == 0 ? 180 : 420);
     if (m_proxy->rowCount() > 0)
         m_view->selectRow(0);

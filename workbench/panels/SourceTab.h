@@ -1,6 +1,10 @@
 #pragma once
 
+#include "workbench/panels/ColumnMemory.h"
+
 #include <QWidget>
+
+#include <memory>
 
 class QAbstractItemModel;
 class QAction;
@@ -15,10 +19,10 @@ class SourceTab : public QWidget
     Q_OBJECT
 
 public:
-    /// \a proxy, which the tab takes over, sorts and filters the rows. The buttons for \a actions stand
-    /// before the filter.
-    SourceTab(const QString &name, QSortFilterProxyModel *proxy, const QList<QAction *> &actions,
-              QWidget *parent = nullptr);
+    /// \a name is the list's in the settings, \a title what it is called. \a proxy, which the tab takes over,
+    /// sorts and filters the rows. The buttons for \a actions stand before the filter.
+    SourceTab(const QString &name, const QString &title, QSortFilterProxyModel *proxy,
+              const QList<QAction *> &actions, QWidget *parent = nullptr);
 
     [[nodiscard]] QTableView *view() const { return m_view; }
     /// Shows \a model, which the tab takes over, instead of the one before.
@@ -36,6 +40,7 @@ Q_SIGNALS:
 private:
     QBoxLayout *m_bar;
     QTableView *m_view;
+    std::unique_ptr<ColumnMemory> m_columns;
     QSortFilterProxyModel *m_proxy;
     QAbstractItemModel *m_model = nullptr; // Owned by the tab.
 };

@@ -34,11 +34,11 @@ SourcesPanel::SourcesPanel(const Workspace &workspace, QWidget *parent)
 {
     const Actions &actions = *workspace.actions;
     QAction *append = actions[ActionId::SourceAppend];
-    m_dataset = new SourceTab(tr("Dataset fields"), new VariablesDatasetProxyModel(nullptr),
+    m_dataset = new SourceTab(u"dataset"_s, tr("Dataset fields"), new VariablesDatasetProxyModel(nullptr),
                               {actions[ActionId::SourceOpenDataset], append}, this);
-    m_csv = new SourceTab(tr("CSV fields"), new QSortFilterProxyModel,
+    m_csv = new SourceTab(u"csv"_s, tr("CSV fields"), new QSortFilterProxyModel,
                           {actions[ActionId::SourceOpenCsv], append}, this);
-    m_lookups = new SourceTab(tr("Lookups"), new QSortFilterProxyModel,
+    m_lookups = new SourceTab(u"lookups"_s, tr("Lookups"), new QSortFilterProxyModel,
                               {actions[ActionId::SourceOpenLookups], append}, this);
     m_dataset->addControl(m_record);
     m_record->setAccessibleName(tr("Record"));

@@ -7,10 +7,12 @@
 #include "workbench/operations/ListEdits.h"
 #include "workbench/operations/NewCodes.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 ValueLabelsPanel::ValueLabelsPanel(const Workspace &workspace, QWidget *parent)
-    : ItemsPanel(workspace, tr("Value labels"), new VarValueLabelDiccionaryProxyModel(nullptr),
-                 {ActionId::LabelAdd, ActionId::LabelRemove, ActionId::LabelMoveUp, ActionId::LabelMoveDown},
-                 parent)
+    : ItemsPanel(
+        workspace, u"valueLabels"_s, tr("Value labels"), new VarValueLabelDiccionaryProxyModel(nullptr),
+        {ActionId::LabelAdd, ActionId::LabelRemove, ActionId::LabelMoveUp, ActionId::LabelMoveDown}, parent)
 {
     start();
 }

@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -30,6 +31,7 @@ VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *pare
     auto *table = new EmptyText<QTableView>(this);
     table->setEmptyText(tr("No variables to show. Add one, or drag fields here from the sources below."));
     m_view = table;
+    m_columns = std::make_unique<ColumnMemory>(m_view, u"variables"_s);
     Widgets::setUpTable(m_view, tr("Variables"));
     m_view->setModel(m_proxy);
     m_view->setAcceptDrops(true);
@@ -71,8 +73,10 @@ void VariableTablePanel::showEntity(TDcEntity *entity)
 {
     const QScopedValueRollback following(m_showing, true);
     // A table without a model has no columns and so forgets how wide they were.
-    if (m_model)
-        m_header = m_view->horizontalHeader()->saveState();
+    if (m_model) {
+        m_columns->take();
+        m_scroll = m_view->verticalScrollBar()->value();
+    }
     m_proxy->setSourceModel(nullptr);
     delete m_model;
     m_model = nullptr;
@@ -86,6 +90,11 @@ void VariableTablePanel::showEntity(TDcEntity *entity)
                 &VariableTablePanel::takeSelection, Qt::UniqueConnection);
         connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                 &VariableTablePanel::takeSelection, Qt::UniqueConnection);
+        // A change of structure shows the same entity anew; the person goes on looking at the same place.
+        if (std::exchange(m_shown, entity) == entity) {
+            m_view->doItemsLayout();
+            m_view->verticalScrollBar()->setValue(m_scroll);
+        }
     }
     updateCount();
 }
@@ -93,10 +102,8 @@ void VariableTablePanel::showEntity(TDcEntity *entity)
 void VariableTablePanel::arrangeColumns()
 {
     QHeaderView *header = m_view->horizontalHeader();
-    if (!m_header.isEmpty()) {
-        header->restoreState(m_header);
+    if (m_columns->restore())
         return;
-    }
     const int letter = fontMetrics().averageCharWidth();
     constexpr int letters[] = {22, 13, 30, 15, 9}; // The label takes what is left.
     for (int column = 0; column < header->count(); ++column)

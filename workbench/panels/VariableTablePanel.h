@@ -1,9 +1,12 @@
 #pragma once
 
 #include "workbench/operations/VariableEdits.h"
+#include "workbench/panels/ColumnMemory.h"
 #include "workbench/Workspace.h"
 
 #include <QWidget>
+
+#include <memory>
 
 class QLabel;
 class QLineEdit;
@@ -57,7 +60,9 @@ private:
     VariablesDictionaryProxyModel *m_proxy;
     VariableDiccionaryModel *m_model = nullptr; // Owned by the panel.
     int m_imported = 0; // Fields of the drop that is under way.
-    QByteArray m_header; // Widths and order of the columns as a person left them.
+    std::unique_ptr<ColumnMemory> m_columns;
+    const TDcEntity *m_shown = nullptr; // Shown last; its address is only compared.
+    int m_scroll = 0; // How far it was scrolled then.
     bool m_committing = false; // An edit of the table itself is under way.
     bool m_showing = false; // The view follows the selection, not the other way round.
 };
