@@ -380,7 +380,7 @@ QString wrongSelection(MainWindow &window)
 /// where a field starts and how long it is, which one variable has twice and a document once.
 QString lostBySaving(const TDcEntity &saved, const TDcEntity &opened)
 {
-    static const QStringList unkept{u"level"_s, u"position"_s, u"start"_s, u"length"_s};
+    static const QStringList unkept{u"level"_s, u"position"_s, u"start"_s, u"length"_s, u"field size"_s};
     const QList<DictionaryChange> changes = DictionaryDifference::between(saved, opened).changes();
     QStringList lost;
     for (const DictionaryChange &change : changes) {

@@ -1,3 +1,4 @@
+#include "common/Constants.h"
 #include "documents/DictionaryCopy.h"
 #include "documents/DictionaryDifference.h"
 #include "model/MetadataVariables.h"
@@ -11,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -26,6 +28,8 @@ private Q_SLOTS:
     void writesEachProperty_data();
     void writesEachProperty();
     void makesALayoutWhenItIsNeeded();
+    void comesBackFromItsFile_data();
+    void comesBackFromItsFile();
     void aRefusedTextLeavesTheFieldAsItWas_data();
     void aRefusedTextLeavesTheFieldAsItWas();
     void renamingTheReferenceCodeAsks_data();
@@ -161,6 +165,30 @@ void TestVariableForm::makesALayoutWhenItIsNeeded()
     stack()->undo();
     QVERIFY(!age()->getMetadataVariables());
     QCOMPARE(field->text(), QString());
+}
+
+void TestVariableForm::comesBackFromItsFile_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"Decimals", "Field size", "Field position", "Start", "Length", "Size", "Tag"})
+        QTest::addRow("%s", name) << QString::fromLatin1(name);
+}
+
+void TestVariableForm::comesBackFromItsFile()
+{
+    QFETCH(const QString, name);
+    age()->setVarType(Constants::typeReal);
+    m_bench->document.commit();
+    auto *number = control<QSpinBox>(name);
+    number->setFocus();
+    number->selectAll();
+    QTest::keyClicks(number, u"9"_s);
+    QTest::keyClick(number, Qt::Key_Return);
+    const QTemporaryDir folder;
+    QVERIFY(m_bench->document.save(folder.filePath(u"a.mvdb"_s)));
+    QVERIFY(m_bench->document.open(folder.filePath(u"a.mvdb"_s)));
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    QCOMPARE(number->value(), 9);
 }
 
 void TestVariableForm::aRefusedTextLeavesTheFieldAsItWas_data()
