@@ -1,6 +1,7 @@
 #include "common/Constants.h"
 #include "model/MetadataVariables.h"
 #include "tests/workbench/Bench.h"
+#include "tests/workbench/IsolatedSettings.h"
 #include "workbench/panels/EmptyText.h"
 #include "workbench/panels/RangesPanel.h"
 
@@ -43,6 +44,7 @@ private:
     }
     void fill(const QList<double> &bounds);
 
+    IsolatedSettings m_settings;
     std::unique_ptr<Bench> m_bench;
     std::unique_ptr<RangesPanel> m_panel;
 };

@@ -1,5 +1,6 @@
 #include "tests/support/Payloads.h"
 #include "tests/workbench/Bench.h"
+#include "tests/workbench/IsolatedSettings.h"
 #include "workbench/panels/SourcesPanel.h"
 #include "workbench/panels/SourceTab.h"
 
@@ -46,6 +47,7 @@ private:
     [[nodiscard]] static QLineEdit *filter(const SourceTab *tab) { return tab->findChild<QLineEdit *>(); }
     [[nodiscard]] QComboBox *records() const { return m_panel->findChild<QComboBox *>(); }
 
+    IsolatedSettings m_settings;
     std::unique_ptr<Bench> m_bench;
     std::unique_ptr<SourcesPanel> m_panel;
 };

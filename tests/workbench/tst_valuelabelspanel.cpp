@@ -1,5 +1,6 @@
 #include "model/ValueLabelElement.h"
 #include "tests/workbench/Bench.h"
+#include "tests/workbench/IsolatedSettings.h"
 #include "workbench/panels/EmptyText.h"
 #include "workbench/panels/ValueLabelsPanel.h"
 
@@ -41,6 +42,7 @@ private:
     void selectRows(const QList<int> &rows);
     QLineEdit *edit(int row, int column);
 
+    IsolatedSettings m_settings;
     std::unique_ptr<Bench> m_bench;
     std::unique_ptr<ValueLabelsPanel> m_panel;
 };
