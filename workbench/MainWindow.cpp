@@ -81,9 +81,6 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
-    // An open editor hands over what stands in it while there is somebody to take it.
-    if (QWidget *focus = focusWidget())
-        focus->clearFocus();
     // The panels look at document and selection, which are members and so would go first.
     const QList<QWidget *> panels = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
     qDeleteAll(panels);

@@ -36,7 +36,6 @@ private Q_SLOTS:
     void entersWhatIsTypedBeforeAnAction_data();
     void entersWhatIsTypedBeforeAnAction();
     void goesOnInTheTableAfterAnAction();
-    void goesWithAnOpenEditor();
     void namesTheStepInTheMenu();
     void asksBeforeWorkIsLost_data();
     void asksBeforeWorkIsLost();
@@ -151,16 +150,6 @@ void TestMainWindow::goesOnInTheTableAfterAnAction()
     QVERIFY(Places::findVariable(m_window->document()->root(), u"GENDER"_s));
     QVERIFY(!m_window->isWindowModified());
     QCOMPARE(QApplication::focusWidget(), view);
-}
-
-void TestMainWindow::goesWithAnOpenEditor()
-{
-    QVERIFY(m_window->files()->open(sample()));
-    (*m_window->actions())[ActionId::LabelAdd]->trigger();
-    QWidget *editor = QApplication::focusWidget();
-    QVERIFY(qobject_cast<QLineEdit *>(editor));
-    QTest::keyClicks(editor, u"12"_s);
-    m_window.reset(); // What the editor would write to goes before it.
 }
 
 void TestMainWindow::namesTheStepInTheMenu()
