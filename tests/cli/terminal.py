@@ -96,7 +96,7 @@ class TerminalTest(unittest.TestCase):
         cls.table = Path(cls.folder.name, "large.csv")
         with open(cls.table, "w", encoding="utf-8") as table:
             table.write("ID,AGE,NAME\n")
-            table.writelines(f"{row},{row % 90},Person {row}\n" for row in range(200_000))
+            table.writelines(f"{row},{row % 90},Person {row}\n" for row in range(1_000_000))
 
     @classmethod
     def tearDownClass(cls):

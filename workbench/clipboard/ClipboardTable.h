@@ -23,12 +23,12 @@ public:
 
     /// \a view, not owned, shows what is current in \a workspace.
     ClipboardTable(const Workspace &workspace, Kind kind, QTableView *view)
-        : m_workspace(workspace), m_kind(kind), m_view(view)
+        : m_workspace(workspace), m_kind(kind), m_view(view), m_alive(view)
     {
     }
 
     /// Null once the view is gone.
-    [[nodiscard]] QTableView *view() const { return m_view; }
+    [[nodiscard]] QTableView *view() const { return m_alive ? m_view : nullptr; }
 
     /// The selected rows with a header; empty when none are selected.
     [[nodiscard]] QString copy() const;
@@ -41,5 +41,6 @@ private:
 
     Workspace m_workspace;
     Kind m_kind;
-    QPointer<QTableView> m_view;
+    QTableView *m_view; // Not owned.
+    QPointer<QObject> m_alive; // The view, which is asked for while it goes and is no table any more then.
 };
