@@ -4,8 +4,8 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -130,10 +130,17 @@ void Person::takeKeyboard()
         QWidget *dialog = QApplication::activeModalWidget();
         return dialog ? dialog : m_window;
     };
-    if (see<bool>([front] { return front()->isActiveWindow(); }))
-        return;
-    perform({u"windowfocus"_s, QString::number(see<WId>([front] { return front()->winId(); }))});
-    waitUntil([front] { return front()->isActiveWindow(); }, "the active window");
+    // A window that is not on the screen yet does not take the keyboard, so it is offered again.
+    const QDeadlineTimer deadline(patience);
+    while (!see<bool>([front] { return front()->isActiveWindow(); })) {
+        if (deadline.hasExpired()) {
+            m_missed += u" waited in vain for the active window"_s;
+            return;
+        }
+        QThread::msleep(20);
+        if (see<bool>([front] { return front()->windowHandle() && front()->windowHandle()->isExposed(); }))
+            perform({u"windowfocus"_s, QString::number(see<WId>([front] { return front()->winId(); }))});
+    }
 }
 
 void Person::clickAt(const std::function<QPoint()> &place, int times)
@@ -272,10 +279,9 @@ void Person::answer(const QString &button, bool byMouse)
 
 void Person::waitUntil(const std::function<bool()> &condition, const char *what)
 {
-    QElapsedTimer timer;
-    timer.start();
+    const QDeadlineTimer deadline(patience);
     while (!see<bool>(condition)) {
-        if (timer.hasExpired(patience)) {
+        if (deadline.hasExpired()) {
             m_missed += u" waited in vain for "_s + QString::fromUtf8(what);
             return;
         }
