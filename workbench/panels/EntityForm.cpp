@@ -31,6 +31,12 @@ EntityForm::EntityForm(const Workspace &workspace, QWidget *parent)
     showEntity();
 }
 
+EntityForm::~EntityForm()
+{
+    // A control that has the focus writes when it goes, which is after this.
+    m_form->suspend();
+}
+
 template <auto Getter>
 auto EntityForm::get() const
 {

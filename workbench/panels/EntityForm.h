@@ -16,6 +16,8 @@ class EntityForm : public QWidget
 
 public:
     explicit EntityForm(const Workspace &workspace, QWidget *parent = nullptr);
+    ~EntityForm() override;
+    Q_DISABLE_COPY_MOVE(EntityForm)
 
 private:
     void build();

@@ -48,6 +48,12 @@ VariableForm::VariableForm(const Workspace &workspace, QWidget *parent)
     showVariable();
 }
 
+VariableForm::~VariableForm()
+{
+    // A control that has the focus writes when it goes, which is after this.
+    m_form->suspend();
+}
+
 template <auto Getter>
 auto VariableForm::get() const
 {

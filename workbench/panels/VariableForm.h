@@ -16,6 +16,8 @@ class VariableForm : public QWidget
 
 public:
     explicit VariableForm(const Workspace &workspace, QWidget *parent = nullptr);
+    ~VariableForm() override;
+    Q_DISABLE_COPY_MOVE(VariableForm)
 
 private:
     void build();
