@@ -130,7 +130,8 @@ void Person::takeKeyboard()
         QWidget *dialog = QApplication::activeModalWidget();
         return dialog ? dialog : m_window;
     };
-    // A window that is not on the screen yet does not take the keyboard, so it is offered again.
+    // A window that is not on the screen yet does not take the keyboard, so it is offered again. A window
+    // that has it and did not hear of it is told when it comes back from another one.
     const QDeadlineTimer deadline(patience);
     while (!see<bool>([front] { return front()->isActiveWindow(); })) {
         if (deadline.hasExpired()) {
@@ -139,7 +140,8 @@ void Person::takeKeyboard()
         }
         QThread::msleep(20);
         if (see<bool>([front] { return front()->windowHandle() && front()->windowHandle()->isExposed(); }))
-            perform({u"windowfocus"_s, QString::number(see<WId>([front] { return front()->winId(); }))});
+            perform({u"windowfocus"_s, QString::number(see<WId>([this] { return m_window->winId(); })),
+                     u"windowfocus"_s, QString::number(see<WId>([front] { return front()->winId(); }))});
     }
 }
 
