@@ -156,8 +156,8 @@ void ExpressionDialog::addOperators(QHBoxLayout *row)
     add(u")"_s, tr("closing parenthesis"));
     row->addStretch();
 
-    const auto addStep = [this, row](const QString &text, const QString &icon, void (QPlainTextEdit::*step)(),
-                                     void (QPlainTextEdit::*available)(bool)) {
+    const auto addStep = [this, row](const QString &text, const QString &icon,
+                                     void (QPlainTextEdit::*step)()) {
         auto *button = new QToolButton(this);
         button->setIcon(QIcon(icon));
         button->setToolTip(text);
@@ -166,11 +166,13 @@ void ExpressionDialog::addOperators(QHBoxLayout *row)
         button->setFocusPolicy(Qt::TabFocus);
         button->setEnabled(false);
         connect(button, &QToolButton::clicked, m_editor, step);
-        connect(m_editor, available, button, &QWidget::setEnabled);
         row->addWidget(button);
+        return button;
     };
-    addStep(tr("Undo"), IconPaths::icon48("Undo"_L1), &QPlainTextEdit::undo, &QPlainTextEdit::undoAvailable);
-    addStep(tr("Redo"), IconPaths::icon48("Redo"_L1), &QPlainTextEdit::redo, &QPlainTextEdit::redoAvailable);
+    auto *undo = addStep(tr("Undo"), IconPaths::icon48("Undo"_L1), &QPlainTextEdit::undo);
+    auto *redo = addStep(tr("Redo"), IconPaths::icon48("Redo"_L1), &QPlainTextEdit::redo);
+    connect(m_editor, &QPlainTextEdit::undoAvailable, undo, &QWidget::setEnabled);
+    connect(m_editor, &QPlainTextEdit::redoAvailable, redo, &QWidget::setEnabled);
 }
 
 QWidget *ExpressionDialog::addButtons()
