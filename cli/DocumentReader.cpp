@@ -64,8 +64,8 @@ QJsonDocument parse(const QString &path, const QByteArray &text)
     QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError) {
         const auto [line, column] = Cli::textPosition(text, errorOffset(text, error));
-        throw Failure(
-            u"%1:%2:%3: is not JSON: %4"_s.arg(path).arg(line).arg(column).arg(error.errorString()));
+        throw Failure(u"%1:%2:%3: is not JSON: %4"_s.arg(path, QString::number(line), QString::number(column),
+                                                         error.errorString()));
     }
     return document;
 }

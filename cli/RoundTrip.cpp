@@ -33,7 +33,7 @@ bool holdsNamed(const QString &key)
 
 QString segment(const Step &step)
 {
-    return step.index < 0 ? step.key : u"%1[%2]"_s.arg(step.key).arg(step.index);
+    return step.index < 0 ? step.key : u"%1[%2]"_s.arg(step.key, QString::number(step.index));
 }
 
 QString path(const Step *from, const Step *to)

@@ -26,7 +26,7 @@ SourceLookups LookupFile::read(const QString &path, const SourceOptions &options
         if (lookup->getId().isEmpty())
             return tr("The id is empty.");
         if (const qint64 before = lines.value(lookup->getId()); before > 0)
-            return tr("The id \"%1\" stands in line %2 too.").arg(lookup->getId()).arg(before);
+            return tr("The id \"%1\" stands in line %2 too.").arg(lookup->getId(), QString::number(before));
         lines.insert(lookup->getId(), row.line);
         result.items->append(std::move(lookup));
         return QString();

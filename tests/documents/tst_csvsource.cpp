@@ -208,11 +208,12 @@ void tst_CsvSource::refuses_data()
     QTest::addRow("empty") << QByteArray() << u"a.csv, line 1: The file holds no rows."_s;
     QTest::addRow("blank lines") << QByteArray("\n\n \n") << u"a.csv, line 1: The file holds no rows."_s;
     QTest::addRow("too few cells") << QByteArray("a,b\n1,2\n3\n")
-                                   << u"a.csv, line 3: 1 cells where the first row has 2."_s;
+                                   << u"a.csv, line 3: Number of cells: 1, in the first row: 2."_s;
     QTest::addRow("too many cells") << QByteArray("a,b\n1,2,3\n")
-                                    << u"a.csv, line 2: 3 cells where the first row has 2."_s;
+                                    << u"a.csv, line 2: Number of cells: 3, in the first row: 2."_s;
     QTest::addRow("the line of a row over several lines, after a blank one")
-        << QByteArray("a,b\n\n\"x\ny\"\n1,2\n") << u"a.csv, line 3: 1 cells where the first row has 2."_s;
+        << QByteArray("a,b\n\n\"x\ny\"\n1,2\n")
+        << u"a.csv, line 3: Number of cells: 1, in the first row: 2."_s;
     QTest::addRow("quote inside") << QByteArray("a,b\n1,x\"y\n")
                                   << u"a.csv, line 2: A quotation mark stands where none may stand."_s;
     QTest::addRow("text after a quote")

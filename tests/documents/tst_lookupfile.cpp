@@ -62,7 +62,7 @@ void tst_LookupFile::refuses_data()
     QTest::addRow("twice") << QByteArray("id,label\n1,x\n2,y\n1,z\n")
                            << u"a.csv, line 4: The id \"1\" stands in line 2 too."_s;
     QTest::addRow("ragged") << QByteArray("id,label\n1\n")
-                            << u"a.csv, line 2: 1 cells where the first row has 2."_s;
+                            << u"a.csv, line 2: Number of cells: 1, in the first row: 2."_s;
 }
 
 void tst_LookupFile::refuses()

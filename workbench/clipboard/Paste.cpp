@@ -3,6 +3,7 @@
 #include "workbench/clipboard/PasteTarget.h"
 
 #include <QHash>
+#include <QLocale>
 #include <QSet>
 
 #include <algorithm>
@@ -95,7 +96,9 @@ void Paste::takeHeader(const PasteTarget &target, const TabText::Row &header)
     if (count == 0)
         return;
     const QString names = unknown.join(u", "_s);
-    refuse(header.line, count > mostNamed ? tr("%1 and %L2 more").arg(names).arg(count - mostNamed) : names,
+    refuse(header.line,
+           count > mostNamed ? tr("%1 and %L2 more").arg(names, QLocale().toString(count - mostNamed))
+                             : names,
            count == 1 ? tr("There is no such column, so it was left out.")
                       : tr("There are no such columns, so they were left out."));
 }

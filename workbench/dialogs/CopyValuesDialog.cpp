@@ -15,6 +15,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -190,7 +191,7 @@ void CopyValuesDialog::accept()
 {
     const QList<TDcVariable *> chosen = targets();
     ValueCopies::apply(*m_source, chosen, what());
-    m_workspace.document->commit(
-        tr("copying values of %1 to %L2 variables").arg(m_source->getName()).arg(chosen.size()));
+    m_workspace.document->commit(tr("copying values of %1 to %L2 variables")
+                                     .arg(m_source->getName(), QLocale().toString(chosen.size())));
     QDialog::accept();
 }

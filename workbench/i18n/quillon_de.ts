@@ -1017,8 +1017,8 @@
         <translation>Ein Anführungszeichen steht, wo keines stehen darf.</translation>
     </message>
     <message>
-        <source>%1 cells where the first row has %2.</source>
-        <translation>%1 Zellen, wo die erste Zeile %2 hat.</translation>
+        <source>Number of cells: %1, in the first row: %2.</source>
+        <translation>Anzahl der Zellen: %1, in der ersten Zeile: %2.</translation>
     </message>
     <message>
         <source>line %1</source>
@@ -1570,16 +1570,16 @@
         <translation>Geben Sie an, worin sie sich unterscheiden.</translation>
     </message>
     <message>
-        <source>The code %1 has more than %2 characters.</source>
-        <translation>Der Code %1 hat mehr als %2 Zeichen.</translation>
+        <source>The code %1 does not fit into the length of %2.</source>
+        <translation>Der Code %1 passt nicht in die Länge von %2.</translation>
     </message>
     <message>
         <source>Shorten the code or widen the variable.</source>
         <translation>Kürzen Sie den Code oder verbreitern Sie die Variable.</translation>
     </message>
     <message>
-        <source>The range %1 does not fit into %2 positions.</source>
-        <translation>Der Bereich %1 passt nicht in %2 Stellen.</translation>
+        <source>The range %1 does not fit into the length of %2.</source>
+        <translation>Der Bereich %1 passt nicht in die Länge von %2.</translation>
     </message>
     <message>
         <source>Correct the range or the length.</source>
@@ -1702,16 +1702,16 @@
         <translation>Legen Sie fest, wie viele Zeichen er haben darf.</translation>
     </message>
     <message>
-        <source>The type has no decimals, but %1 are given.</source>
-        <translation>Der Typ hat keine Dezimalstellen, es sind aber %1 angegeben.</translation>
+        <source>Decimals are set to %1, but the type has none.</source>
+        <translation>Dezimalstellen sind auf %1 gesetzt, aber der Typ hat keine.</translation>
     </message>
     <message>
         <source>Make it a real number or set the decimals to 0.</source>
         <translation>Machen Sie sie zu einer reellen Zahl oder setzen Sie die Dezimalstellen auf 0.</translation>
     </message>
     <message>
-        <source>%1 decimals do not fit into %2 positions.</source>
-        <translation>%1 Dezimalstellen passen nicht in %2 Stellen.</translation>
+        <source>The decimals (%1) do not fit into the length (%2).</source>
+        <translation>Die Dezimalstellen (%1) passen nicht in die Länge (%2).</translation>
     </message>
     <message>
         <source>Correct the decimals or the length.</source>
@@ -1775,7 +1775,7 @@
     </message>
     <message>
         <source>A whole number or text has decimals</source>
-        <translation>Eine ganze Zahl oder ein Text hat Dezimalstellen</translation>
+        <translation>Eine ganze Zahl oder ein Text hat Nachkommastellen</translation>
     </message>
     <message>
         <source>The decimals do not fit into the field</source>

@@ -1017,8 +1017,8 @@
         <translation>Hay una comilla donde no puede haberla.</translation>
     </message>
     <message>
-        <source>%1 cells where the first row has %2.</source>
-        <translation>%1 celdas donde la primera fila tiene %2.</translation>
+        <source>Number of cells: %1, in the first row: %2.</source>
+        <translation>Número de celdas: %1, en la primera fila: %2.</translation>
     </message>
     <message>
         <source>line %1</source>
@@ -1570,16 +1570,16 @@
         <translation>Indique en qué se diferencian.</translation>
     </message>
     <message>
-        <source>The code %1 has more than %2 characters.</source>
-        <translation>El código %1 tiene más de %2 caracteres.</translation>
+        <source>The code %1 does not fit into the length of %2.</source>
+        <translation>El código %1 no cabe en la longitud de %2.</translation>
     </message>
     <message>
         <source>Shorten the code or widen the variable.</source>
         <translation>Acorte el código o ensanche la variable.</translation>
     </message>
     <message>
-        <source>The range %1 does not fit into %2 positions.</source>
-        <translation>El rango %1 no cabe en %2 posiciones.</translation>
+        <source>The range %1 does not fit into the length of %2.</source>
+        <translation>El rango %1 no cabe en la longitud de %2.</translation>
     </message>
     <message>
         <source>Correct the range or the length.</source>
@@ -1702,16 +1702,16 @@
         <translation>Indique cuántos caracteres puede tener.</translation>
     </message>
     <message>
-        <source>The type has no decimals, but %1 are given.</source>
-        <translation>El tipo no tiene decimales, pero se indican %1.</translation>
+        <source>Decimals are set to %1, but the type has none.</source>
+        <translation>Los decimales son %1, pero el tipo no tiene.</translation>
     </message>
     <message>
         <source>Make it a real number or set the decimals to 0.</source>
         <translation>Hágala un número real o ponga los decimales a 0.</translation>
     </message>
     <message>
-        <source>%1 decimals do not fit into %2 positions.</source>
-        <translation>%1 decimales no caben en %2 posiciones.</translation>
+        <source>The decimals (%1) do not fit into the length (%2).</source>
+        <translation>Los decimales (%1) no caben en la longitud (%2).</translation>
     </message>
     <message>
         <source>Correct the decimals or the length.</source>

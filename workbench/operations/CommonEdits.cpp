@@ -3,6 +3,8 @@
 #include "model/TDcVariable.h"
 #include "workbench/operations/VariableWriter.h"
 
+#include <QLocale>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -43,7 +45,7 @@ QStringList CommonEdits::apply(TDcEntity *root, TDcEntity *entity, const QList<T
             const QStringList &whose = names[why];
             const QString some = whose.first(std::min(whose.size(), mostNamed)).join(u", "_s);
             const QString all = whose.size() > mostNamed
-                ? tr("%1 and %L2 more").arg(some).arg(whose.size() - mostNamed)
+                ? tr("%1 and %L2 more").arg(some, QLocale().toString(whose.size() - mostNamed))
                 : some;
             lines.append(tr("%1 of %2: %3", "a property, variables, why it was refused")
                              .arg(change.property->title(), all, why));

@@ -15,7 +15,7 @@ QString NewNames::free(const QString &base, const QList<QString> &taken)
                   [&folded](const QString &name) { folded.insert(name.trimmed().toCaseFolded()); });
     QString name = base;
     for (int number = 2; folded.contains(name.toCaseFolded()); ++number)
-        name = u"%1_%2"_s.arg(base).arg(number);
+        name = u"%1_%2"_s.arg(base, QString::number(number));
     return name;
 }
 

@@ -115,9 +115,8 @@ void codesFit(const Variable &subject, Report &report)
     for (ValueLabelElement *element : labels(subject)) {
         if (positions > 0 && element->getValue().trimmed().size() > positions)
             report.add(subject, *element,
-                       DictionaryCheck::tr("The code %1 has more than %2 characters.")
-                           .arg(element->getValue())
-                           .arg(positions),
+                       DictionaryCheck::tr("The code %1 does not fit into the length of %2.")
+                           .arg(element->getValue(), QString::number(positions)),
                        DictionaryCheck::tr("Shorten the code or widen the variable."));
     }
 }

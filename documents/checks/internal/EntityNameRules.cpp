@@ -102,8 +102,7 @@ void tagsDiffer(const Entity &entity, Report &report)
         [&](TDcVariable *variable, const TDcVariable *first) {
             report.add(entity, *variable,
                        DictionaryCheck::tr("The variable \"%1\" has the tag %2 too.")
-                           .arg(first->getName())
-                           .arg(first->getTag()),
+                           .arg(first->getName(), QString::number(first->getTag())),
                        DictionaryCheck::tr("Give each variable a tag of its own."));
         });
 }
@@ -144,10 +143,8 @@ void layoutsDoNotOverlap(const Entity &entity, Report &report)
         if (sameRecord && place.start <= widest->end)
             report.add(entity, *place.variable,
                        DictionaryCheck::tr("The positions %1 to %2 overlap those of \"%3\", which end at %4.")
-                           .arg(place.start)
-                           .arg(place.end)
-                           .arg(widest->variable->getName())
-                           .arg(widest->end),
+                           .arg(QString::number(place.start), QString::number(place.end),
+                                widest->variable->getName(), QString::number(widest->end)),
                        DictionaryCheck::tr("Correct the start or the length of one of them."));
         if (!sameRecord || place.end > widest->end)
             widest = &place;

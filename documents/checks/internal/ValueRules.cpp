@@ -119,7 +119,7 @@ void rangesFit(const Variable &subject, Report &report)
     for (Range *range : ranges(subject)) {
         if (tooWide(range->getRangeMin()) || tooWide(range->getRangeMax()))
             report.add(subject, *range,
-                       DictionaryCheck::tr("The range %1 does not fit into %2 positions.")
+                       DictionaryCheck::tr("The range %1 does not fit into the length of %2.")
                            .arg(rangeText(*range))
                            .arg(positions),
                        DictionaryCheck::tr("Correct the range or the length."));

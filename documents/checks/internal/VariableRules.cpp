@@ -81,7 +81,7 @@ void decimalsBelongToReals(const Variable &subject, Report &report)
 {
     if ((subject.type.isText() || subject.type.isInteger()) && subject.variable.getDecimals() > 0)
         report.add(subject,
-                   DictionaryCheck::tr("The type has no decimals, but %1 are given.")
+                   DictionaryCheck::tr("Decimals are set to %1, but the type has none.")
                        .arg(subject.variable.getDecimals()),
                    DictionaryCheck::tr("Make it a real number or set the decimals to 0."));
 }
@@ -94,7 +94,9 @@ void decimalsFit(const Variable &subject, Report &report)
         return;
     if (decimals < 0 || (width > 0 && decimals > width))
         report.add(subject,
-                   DictionaryCheck::tr("%1 decimals do not fit into %2 positions.").arg(decimals).arg(width),
+                   DictionaryCheck::tr("The decimals (%1) do not fit into the length (%2).")
+                       .arg(decimals)
+                       .arg(width),
                    DictionaryCheck::tr("Correct the decimals or the length."));
 }
 

@@ -88,7 +88,8 @@ private:
         if (!m_problem.isEmpty())
             return;
         if (count != m_columns)
-            at(m_row.line, CsvTable::tr("%1 cells where the first row has %2.").arg(count).arg(m_columns));
+            at(m_row.line,
+               CsvTable::tr("Number of cells: %1, in the first row: %2.").arg(count).arg(m_columns));
         else if (const QString problem = m_handle(m_row); !problem.isEmpty())
             at(m_row.line, problem);
         m_row.cells.clear();

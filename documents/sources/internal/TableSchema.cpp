@@ -78,7 +78,8 @@ private:
         const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
         if (document.isNull()) {
             const qint64 line = bytes.left(error.offset).count('\n') + 1;
-            fail(place.isEmpty() ? tr("line %1").arg(line) : tr("%1, line %2").arg(place).arg(line),
+            fail(place.isEmpty() ? tr("line %1").arg(line)
+                                 : tr("%1, line %2").arg(place, QString::number(line)),
                  tr("This is no valid JSON: %1.").arg(error.errorString()));
         } else if (!document.isObject()) {
             fail(place, tr("The file holds no JSON object."));
@@ -132,7 +133,8 @@ private:
         for (const auto &field : list) {
             const QString name = field[u"name"_s].toString();
             if (name.isEmpty())
-                return fail(tr("%1, field %2").arg(place).arg(position + 1), tr("A field must have a name."));
+                return fail(tr("%1, field %2").arg(place, QString::number(position + 1)),
+                            tr("A field must have a name."));
             readField(field, schema[u"missingValues"_s], record, ++position,
                       tr("%1, field %2").arg(place, name));
         }
