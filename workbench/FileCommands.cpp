@@ -49,9 +49,8 @@ void FileCommands::addRecentMenu()
 void FileCommands::updateActions()
 {
     const Document &document = *m_workspace.document;
-    const Actions &actions = *m_workspace.actions;
-    actions[ActionId::FileSave]->setEnabled(document.isModified() || document.path().isEmpty());
-    actions[ActionId::FileRevert]->setEnabled(document.isModified() && !document.path().isEmpty());
+    (*m_workspace.actions)[ActionId::FileRevert]->setEnabled(document.isModified()
+                                                             && !document.path().isEmpty());
 }
 
 bool FileCommands::isDictionary(const QString &path)
@@ -118,6 +117,9 @@ bool FileCommands::save()
 {
     Widgets::finishEditing(m_workspace.window);
     const Document &document = *m_workspace.document;
+    // Always at hand, for what is still being typed shows only now whether there is anything to write.
+    if (!document.isModified() && QFileInfo::exists(document.path()))
+        return true;
     return document.path().isEmpty() || document.isReadOnly() ? saveAs() : saveTo(document.path());
 }
 
