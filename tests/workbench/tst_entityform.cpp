@@ -1,14 +1,12 @@
 #include "documents/DictionaryCopy.h"
 #include "documents/DictionaryDifference.h"
 #include "tests/support/MessageBoxAnswer.h"
-#include "tests/workbench/Bench.h"
+#include "tests/workbench/FormBench.h"
 #include "workbench/panels/EntityForm.h"
 
 #include <QCheckBox>
 #include <QCompleter>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,47 +32,21 @@ private Q_SLOTS:
     void leavesLongTextsWhole();
 
 private:
-    template <typename Control>
-    [[nodiscard]] Control *control(const QString &name) const
-    {
-        const QList<Control *> all = m_form->findChildren<Control *>();
-        for (Control *one : all) {
-            if (one->accessibleName() == name)
-                return one;
-        }
-        return nullptr;
-    }
-    [[nodiscard]] QLineEdit *name() const { return control<QLineEdit>(u"Entity name"_s); }
+    [[nodiscard]] QLineEdit *name() const { return m_bench->control<QLineEdit>(u"Entity name"_s); }
     [[nodiscard]] QUndoStack *stack() const { return m_bench->document.undoStack(); }
-    void type(QLineEdit *field, const QString &text);
 
-    std::unique_ptr<Bench> m_bench;
-    std::unique_ptr<EntityForm> m_form;
+    std::unique_ptr<FormBench<EntityForm>> m_bench;
 };
 
 void TestEntityForm::init()
 {
-    m_bench = std::make_unique<Bench>();
-    m_bench->selection.select(u"PERSON"_s);
-    m_form = std::make_unique<EntityForm>(m_bench->workspace());
-    m_form->resize(300, 400);
-    m_form->show();
-    m_form->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
+    m_bench = std::make_unique<FormBench<EntityForm>>(u"PERSON"_s, QSize(300, 400));
+    QVERIFY(m_bench->isActive());
 }
 
 void TestEntityForm::cleanup()
 {
-    m_form.reset();
     m_bench.reset();
-}
-
-void TestEntityForm::type(QLineEdit *field, const QString &text)
-{
-    field->setFocus();
-    field->selectAll();
-    QTest::keyClicks(field, text);
-    QTest::keyClick(field, Qt::Key_Return);
 }
 
 void TestEntityForm::writesEachProperty_data()
@@ -99,15 +71,15 @@ void TestEntityForm::writesEachProperty()
     QFETCH(const QString, property);
     const auto before = DictionaryCopy::copy(*m_bench->document.root());
     QVariant expected(u"AGE"_s);
-    if (auto *line = control<QLineEdit>(name)) {
-        type(line, u"AGE"_s);
-    } else if (auto *text = control<QPlainTextEdit>(name)) {
+    if (auto *line = m_bench->control<QLineEdit>(name)) {
+        m_bench->type(line, u"AGE"_s);
+    } else if (auto *text = m_bench->control<QPlainTextEdit>(name)) {
         text->setFocus();
         QTest::keyClicks(text, u"AGE"_s);
         QCOMPARE(stack()->count(), 0);
         QTest::keyClick(text, Qt::Key_Backtab);
     } else {
-        auto *box = control<QCheckBox>(name);
+        auto *box = m_bench->control<QCheckBox>(name);
         QVERIFY(box);
         box->click();
         expected = true;
@@ -126,7 +98,7 @@ void TestEntityForm::writesEachProperty()
 void TestEntityForm::renames()
 {
     QCOMPARE(name()->text(), u"PERSON"_s);
-    type(name(), u" PEOPLE "_s);
+    m_bench->type(name(), u" PEOPLE "_s);
     QCOMPARE(m_bench->selection.entity()->getName(), u"PEOPLE"_s);
     QCOMPARE(name()->text(), u"PEOPLE"_s);
     QCOMPARE(m_bench->undoText(), u"rename of PERSON"_s);
@@ -149,7 +121,7 @@ void TestEntityForm::aRefusedNameLeavesTheFieldAsItWas()
     QFETCH(const QString, typed);
     QFETCH(const int, boxes);
     const MessageBoxAnswer answer({u"OK"_s});
-    type(name(), typed);
+    m_bench->type(name(), typed);
     QCOMPARE(name()->text(), u"PERSON"_s);
     QCOMPARE(answer.shown().size(), boxes);
     QCOMPARE(stack()->count(), 0);
@@ -157,7 +129,7 @@ void TestEntityForm::aRefusedNameLeavesTheFieldAsItWas()
 
 void TestEntityForm::offersTheVariablesForRoles()
 {
-    const QCompleter *completer = control<QLineEdit>(u"Reference code variable"_s)->completer();
+    const QCompleter *completer = m_bench->control<QLineEdit>(u"Reference code variable"_s)->completer();
     QVERIFY(completer);
     const auto offered = [completer] {
         QStringList names;
@@ -193,7 +165,7 @@ void TestEntityForm::clearingTheMarkAsksForThoseBelow()
     stack()->clear();
     m_bench->selection.select(u"HOUSEHOLD"_s);
     const MessageBoxAnswer boxes({answer});
-    auto *box = control<QCheckBox>(u"Selectable"_s);
+    auto *box = m_bench->control<QCheckBox>(u"Selectable"_s);
     QVERIFY(box->isChecked());
     box->click();
     QCOMPARE(boxes.shown().size(), 1);
@@ -212,14 +184,14 @@ void TestEntityForm::clearingTheMarkAsksForThoseBelow()
 
 void TestEntityForm::showsWhatWasUndone()
 {
-    type(control<QLineEdit>(u"Entity label"_s), u"Person"_s);
-    control<QCheckBox>(u"Virtual"_s)->click();
+    m_bench->type(m_bench->control<QLineEdit>(u"Entity label"_s), u"Person"_s);
+    m_bench->control<QCheckBox>(u"Virtual"_s)->click();
     stack()->setIndex(0);
-    QCOMPARE(control<QLineEdit>(u"Entity label"_s)->text(), QString());
-    QVERIFY(!control<QCheckBox>(u"Virtual"_s)->isChecked());
+    QCOMPARE(m_bench->control<QLineEdit>(u"Entity label"_s)->text(), QString());
+    QVERIFY(!m_bench->control<QCheckBox>(u"Virtual"_s)->isChecked());
     stack()->setIndex(2);
-    QCOMPARE(control<QLineEdit>(u"Entity label"_s)->text(), u"Person"_s);
-    QVERIFY(control<QCheckBox>(u"Virtual"_s)->isChecked());
+    QCOMPARE(m_bench->control<QLineEdit>(u"Entity label"_s)->text(), u"Person"_s);
+    QVERIFY(m_bench->control<QCheckBox>(u"Virtual"_s)->isChecked());
 }
 
 void TestEntityForm::lookingAtNotesIsNoEdit()
@@ -227,7 +199,7 @@ void TestEntityForm::lookingAtNotesIsNoEdit()
     const QString notes = u"One line\r\nand\u00A0another"_s;
     m_bench->selection.entity()->setDocumentationEntity(notes);
     m_bench->document.commit();
-    auto *field = control<QPlainTextEdit>(u"Entity documentation"_s);
+    auto *field = m_bench->control<QPlainTextEdit>(u"Entity documentation"_s);
     QCOMPARE(field->toPlainText(), u"One line\nand another"_s);
     field->setFocus();
     QTest::keyClick(field, Qt::Key_Backtab);
@@ -252,7 +224,7 @@ void TestEntityForm::leavesLongTextsWhole()
     const QString label(40'000, u'x');
     m_bench->selection.entity()->setLabel(label);
     m_bench->document.commit();
-    auto *field = control<QLineEdit>(u"Entity label"_s);
+    auto *field = m_bench->control<QLineEdit>(u"Entity label"_s);
     QCOMPARE(field->text().size(), label.size());
     field->setFocus();
     QTest::keyClick(field, Qt::Key_Return);

@@ -3,17 +3,15 @@
 #include "documents/DictionaryDifference.h"
 #include "model/MetadataVariables.h"
 #include "tests/support/MessageBoxAnswer.h"
-#include "tests/workbench/Bench.h"
+#include "tests/workbench/FormBench.h"
 #include "workbench/panels/VariableForm.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -42,47 +40,21 @@ private Q_SLOTS:
     void forgetsWhatIsTypedWhenTheVariableGoes();
 
 private:
-    template <typename Control>
-    [[nodiscard]] Control *control(const QString &name) const
-    {
-        const QList<Control *> all = m_form->findChildren<Control *>();
-        for (Control *one : all) {
-            if (one->accessibleName() == name)
-                return one;
-        }
-        return nullptr;
-    }
     [[nodiscard]] QUndoStack *stack() const { return m_bench->document.undoStack(); }
     [[nodiscard]] TDcVariable *age() const { return m_bench->entity(u"PERSON"_s)->getVariables()->at(1); }
-    void type(QLineEdit *field, const QString &text);
 
-    std::unique_ptr<Bench> m_bench;
-    std::unique_ptr<VariableForm> m_form;
+    std::unique_ptr<FormBench<VariableForm>> m_bench;
 };
 
 void TestVariableForm::init()
 {
-    m_bench = std::make_unique<Bench>();
-    m_bench->selection.select(u"PERSON/AGE"_s);
-    m_form = std::make_unique<VariableForm>(m_bench->workspace());
-    m_form->resize(340, 600);
-    m_form->show();
-    m_form->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
+    m_bench = std::make_unique<FormBench<VariableForm>>(u"PERSON/AGE"_s, QSize(340, 600));
+    QVERIFY(m_bench->isActive());
 }
 
 void TestVariableForm::cleanup()
 {
-    m_form.reset();
     m_bench.reset();
-}
-
-void TestVariableForm::type(QLineEdit *field, const QString &text)
-{
-    field->setFocus();
-    field->selectAll();
-    QTest::keyClicks(field, text);
-    QTest::keyClick(field, Qt::Key_Return);
 }
 
 void TestVariableForm::writesEachProperty_data()
@@ -121,22 +93,22 @@ void TestVariableForm::writesEachProperty()
     stack()->clear();
     const auto before = DictionaryCopy::copy(*m_bench->document.root());
     QVariant expected(u"ABC"_s);
-    if (auto *number = control<QSpinBox>(name)) {
+    if (auto *number = m_bench->control<QSpinBox>(name)) {
         number->setFocus();
         number->selectAll();
         QTest::keyClicks(number, u"47"_s);
         QTest::keyClick(number, Qt::Key_Return);
         expected = 47;
-    } else if (auto *choice = control<QComboBox>(name)) {
-        type(choice->lineEdit(), u"ABC"_s);
-    } else if (auto *line = control<QLineEdit>(name)) {
-        type(line, u"ABC"_s);
-    } else if (auto *text = control<QPlainTextEdit>(name)) {
+    } else if (auto *choice = m_bench->control<QComboBox>(name)) {
+        m_bench->type(choice->lineEdit(), u"ABC"_s);
+    } else if (auto *line = m_bench->control<QLineEdit>(name)) {
+        m_bench->type(line, u"ABC"_s);
+    } else if (auto *text = m_bench->control<QPlainTextEdit>(name)) {
         text->setFocus();
         QTest::keyClicks(text, u"ABC"_s);
         QTest::keyClick(text, Qt::Key_Backtab);
     } else {
-        auto *box = control<QCheckBox>(name);
+        auto *box = m_bench->control<QCheckBox>(name);
         QVERIFY(box);
         box->click();
         expected = true;
@@ -155,11 +127,11 @@ void TestVariableForm::writesEachProperty()
 void TestVariableForm::makesALayoutWhenItIsNeeded()
 {
     QVERIFY(!age()->getMetadataVariables());
-    auto *field = control<QLineEdit>(u"Record"_s);
+    auto *field = m_bench->control<QLineEdit>(u"Record"_s);
     field->setFocus();
     QTest::keyClick(field, Qt::Key_Return);
     QVERIFY(!age()->getMetadataVariables());
-    type(field, u"P"_s);
+    m_bench->type(field, u"P"_s);
     QVERIFY(age()->getMetadataVariables());
     QCOMPARE(age()->getMetadataVariables()->getRecord(), u"P"_s);
     stack()->undo();
@@ -179,7 +151,7 @@ void TestVariableForm::comesBackFromItsFile()
     QFETCH(const QString, name);
     age()->setVarType(Constants::typeReal);
     m_bench->document.commit();
-    auto *number = control<QSpinBox>(name);
+    auto *number = m_bench->control<QSpinBox>(name);
     number->setFocus();
     number->selectAll();
     QTest::keyClicks(number, u"9"_s);
@@ -209,9 +181,9 @@ void TestVariableForm::aRefusedTextLeavesTheFieldAsItWas()
     QFETCH(const QString, typed);
     QFETCH(const int, boxes);
     const MessageBoxAnswer answer({u"OK"_s});
-    auto *line = control<QLineEdit>(field);
+    auto *line = m_bench->control<QLineEdit>(field);
     const QString before = line->text();
-    type(line, typed);
+    m_bench->type(line, typed);
     QCOMPARE(line->text(), before);
     QCOMPARE(answer.shown().size(), boxes);
     QCOMPARE(stack()->count(), 0);
@@ -244,7 +216,7 @@ void TestVariableForm::renamingTheReferenceCodeAsks()
     m_bench->document.commit();
     stack()->clear();
     const MessageBoxAnswer boxes({answer});
-    type(control<QLineEdit>(u"Name"_s), u"YEARS"_s);
+    m_bench->type(m_bench->control<QLineEdit>(u"Name"_s), u"YEARS"_s);
     QCOMPARE(boxes.shown().size(), 1);
     const auto state = [&] {
         return QStringList{age()->getName(), person->getRefCode(),
@@ -253,7 +225,7 @@ void TestVariableForm::renamingTheReferenceCodeAsks()
     };
     const QString mark = selectable ? u"on"_s : u"off"_s;
     QCOMPARE(state(), QStringList({name, code, mark, mark}));
-    QCOMPARE(control<QLineEdit>(u"Name"_s)->text(), name);
+    QCOMPARE(m_bench->control<QLineEdit>(u"Name"_s)->text(), name);
     // With all that follows from it, the entities below included, it is one step.
     QVERIFY(stack()->count() <= 1);
     stack()->undo();
@@ -267,7 +239,7 @@ void TestVariableForm::choosesTypesByKey()
 {
     age()->setVarType(u"string"_s);
     m_bench->document.commit();
-    auto *types = control<QComboBox>(u"Type"_s);
+    auto *types = m_bench->control<QComboBox>(u"Type"_s);
     const int row = types->currentIndex();
     QCOMPARE(types->itemText(row).toLower(), u"string"_s);
     QCOMPARE(types->currentText(), u"string"_s);
@@ -278,8 +250,8 @@ void TestVariableForm::choosesTypesByKey()
 
 void TestVariableForm::takesAnyOtherType()
 {
-    auto *types = control<QComboBox>(u"Type"_s);
-    type(types->lineEdit(), u"date"_s);
+    auto *types = m_bench->control<QComboBox>(u"Type"_s);
+    m_bench->type(types->lineEdit(), u"date"_s);
     QCOMPARE(age()->getVarType(), u"date"_s);
     QCOMPARE(types->findText(u"date"_s), -1);
     m_bench->selection.select(u"PERSON/SEX"_s);
@@ -297,43 +269,43 @@ void TestVariableForm::showsAnyNumber()
     age()->setMissing(std::numeric_limits<int>::min());
     m_bench->document.commit();
     for (const QString &name : {u"Tag"_s, u"Size"_s, u"Missing-value code"_s}) {
-        control<QSpinBox>(name)->setFocus();
-        QTest::keyClick(control<QSpinBox>(name), Qt::Key_Return);
+        m_bench->control<QSpinBox>(name)->setFocus();
+        QTest::keyClick(m_bench->control<QSpinBox>(name), Qt::Key_Return);
     }
     QCOMPARE(stack()->count(), 1);
     QCOMPARE(age()->getTag(), -7);
-    QCOMPARE(control<QSpinBox>(u"Missing-value code"_s)->value(), std::numeric_limits<int>::min());
+    QCOMPARE(m_bench->control<QSpinBox>(u"Missing-value code"_s)->value(), std::numeric_limits<int>::min());
 }
 
 void TestVariableForm::showsWhatWasUndone()
 {
-    type(control<QLineEdit>(u"Label"_s), u"Years"_s);
-    type(control<QLineEdit>(u"Field"_s), u"P3"_s);
-    type(control<QComboBox>(u"Type"_s)->lineEdit(), u"date"_s);
+    m_bench->type(m_bench->control<QLineEdit>(u"Label"_s), u"Years"_s);
+    m_bench->type(m_bench->control<QLineEdit>(u"Field"_s), u"P3"_s);
+    m_bench->type(m_bench->control<QComboBox>(u"Type"_s)->lineEdit(), u"date"_s);
     stack()->setIndex(0);
-    QCOMPARE(control<QLineEdit>(u"Label"_s)->text(), u"Age"_s);
-    QCOMPARE(control<QLineEdit>(u"Field"_s)->text(), QString());
-    QCOMPARE(control<QComboBox>(u"Type"_s)->currentText(), QString());
+    QCOMPARE(m_bench->control<QLineEdit>(u"Label"_s)->text(), u"Age"_s);
+    QCOMPARE(m_bench->control<QLineEdit>(u"Field"_s)->text(), QString());
+    QCOMPARE(m_bench->control<QComboBox>(u"Type"_s)->currentText(), QString());
     stack()->setIndex(3);
-    QCOMPARE(control<QLineEdit>(u"Label"_s)->text(), u"Years"_s);
-    QCOMPARE(control<QLineEdit>(u"Field"_s)->text(), u"P3"_s);
-    QCOMPARE(control<QComboBox>(u"Type"_s)->currentText(), u"date"_s);
+    QCOMPARE(m_bench->control<QLineEdit>(u"Label"_s)->text(), u"Years"_s);
+    QCOMPARE(m_bench->control<QLineEdit>(u"Field"_s)->text(), u"P3"_s);
+    QCOMPARE(m_bench->control<QComboBox>(u"Type"_s)->currentText(), u"date"_s);
 }
 
 void TestVariableForm::showsNothingWithoutAVariable()
 {
-    const auto *pages = m_form->findChild<QStackedWidget *>();
+    const auto *pages = m_bench->form.findChild<QStackedWidget *>();
     QCOMPARE(pages->currentIndex(), 1);
     m_bench->selection.select(u"DEATH"_s);
     QCOMPARE(pages->currentIndex(), 0);
     m_bench->selection.select(u"PERSON/SEX"_s);
     QCOMPARE(pages->currentIndex(), 1);
-    QCOMPARE(control<QLineEdit>(u"Name"_s)->text(), u"SEX"_s);
+    QCOMPARE(m_bench->control<QLineEdit>(u"Name"_s)->text(), u"SEX"_s);
 }
 
 void TestVariableForm::forgetsWhatIsTypedWhenTheVariableGoes()
 {
-    auto *field = control<QLineEdit>(u"Label"_s);
+    auto *field = m_bench->control<QLineEdit>(u"Label"_s);
     field->setFocus();
     QTest::keyClicks(field, u"X"_s);
     m_bench->document.edit(u"removing"_s, [this] { // Would write to what is gone.
