@@ -2,10 +2,9 @@
 
 #include "business/business_quillon_export.h"
 #include "common/DictionaryUtil.h"
+#include "model/TDcEntity.h"
 
 #include <QList>
-
-class TDcEntity;
 
 /// What follows when the selectable mark of an entity is switched.
 class BUSINESS_QUILLON_EXPORT BusinessEntity

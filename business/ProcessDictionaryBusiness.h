@@ -1,19 +1,14 @@
 #pragma once
 
 #include "business/business_quillon_export.h"
+#include "model/TDcEntity.h"
+#include "model/VarWipChoice.h"
 
+#include <QJsonObject>
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QVariant>
-
-class MetadataVariables;
-class QJsonObject;
-class Range;
-class TDcEntity;
-class TDcVariable;
-class ValueLabelElement;
-class VarWipChoice;
 
 /// Converts an entity tree to a dictionary document and back. Stateless.
 ///

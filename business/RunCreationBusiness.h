@@ -1,14 +1,13 @@
 #pragma once
 
 #include "business/business_quillon_export.h"
+#include "model/Config.h"
 
 #include <QJsonDocument>
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QVariant>
-
-class Config;
 
 /// Converts a run configuration to a document and back. Stateless.
 ///

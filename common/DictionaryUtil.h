@@ -1,11 +1,10 @@
 #pragma once
 
 #include "common/utilitarian_export.h"
+#include "model/TDcEntity.h"
 
 #include <QList>
 #include <QString>
-
-class TDcEntity;
 
 /// Gathers names over a dictionary, for callers that look for clashes.
 ///

@@ -3,10 +3,9 @@
 #include "model/DocumentOrigin.h"
 #include "model/model_quillon_export.h"
 #include "model/OwnedList.h"
+#include "model/TDcVariable.h"
 
 #include <QString>
-
-class TDcVariable;
 
 /// One level of records in a data dictionary: a node of the entity tree, with its variables.
 ///

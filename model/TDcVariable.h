@@ -4,11 +4,10 @@
 #include "model/MetadataVariables.h"
 #include "model/model_quillon_export.h"
 #include "model/OwnedList.h"
+#include "model/ValueLabelElement.h"
 
 #include <memory>
 #include <QString>
-
-class ValueLabelElement;
 
 /// One variable of an entity: what it is called, which values it takes and where they lie in a record.
 ///

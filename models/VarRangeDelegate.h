@@ -1,10 +1,9 @@
 #pragma once
 
 #include "business/business_quillon_export.h"
+#include "model/TDcVariable.h"
 
 #include <QStyledItemDelegate>
-
-class TDcVariable;
 
 /// Edits range bounds: with a whole-number spin box for an integer variable, else with a decimal one.
 class BUSINESS_QUILLON_EXPORT VarRangeDelegate : public QStyledItemDelegate

@@ -2,9 +2,8 @@
 
 #include "business/business_quillon_export.h"
 #include "model/Range.h"
+#include "model/TDcVariable.h"
 #include "models/base/EditableTableModel.h"
-
-class TDcVariable;
 
 /// The valid ranges of a variable as a table of minimum and maximum.
 ///

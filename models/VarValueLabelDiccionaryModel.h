@@ -1,10 +1,9 @@
 #pragma once
 
 #include "business/business_quillon_export.h"
+#include "model/TDcVariable.h"
 #include "model/ValueLabelElement.h"
 #include "models/base/EditableTableModel.h"
-
-class TDcVariable;
 
 /// The categories of a variable as a table of code and label. Edits go straight into the categories; no code
 /// is refused, not even an empty or a repeated one.

@@ -3,14 +3,13 @@
 #include "business/business_quillon_export.h"
 #include "common/DictionaryUtil.h"
 #include "common/Validate.h"
+#include "model/TDcEntity.h"
 #include "model/TDcVariable.h"
 #include "models/base/DragListModel.h"
 
 #include <memory>
 
 class QIcon;
-class TDcEntity;
-class ValueLabelElement;
 
 /// The variables of one entity as an editable table onto which source fields can be dropped.
 ///
