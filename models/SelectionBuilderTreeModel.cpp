@@ -1,7 +1,6 @@
 #include "models/SelectionBuilderTreeModel.h"
 
 #include "common/Constants.h"
-#include "common/IconPaths.h"
 
 #include <QDebug>
 #include <QIcon>
@@ -15,7 +14,7 @@ constexpr auto markedName = "QOVA"_L1;
 
 QVariant icon(const SelectionTreeUnit &unit)
 {
-    return unit.getName() == markedName ? QIcon(IconPaths::about) : QVariant();
+    return unit.getName() == markedName ? QIcon(u":/icons/res/icons/48px-About.png"_s) : QVariant();
 }
 
 int checkState(const SelectionTreeUnit &unit)

@@ -1,7 +1,5 @@
 #include "models/dictionaryTreeModelDownload.h"
 
-#include "common/IconPaths.h"
-
 #include <QIcon>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,7 +19,8 @@ QVariant dictionaryTreeModelDownload::data(const QModelIndex &index, int role) c
     case Qt::EditRole:
         return getItemData(entity, index.column());
     case Qt::DecorationRole:
-        return entity->getCheckDelete() ? QIcon(IconPaths::icon48("numberplaceholder"_L1)) : QVariant();
+        return entity->getCheckDelete() ? QIcon(u":/icons/res/icons/48px-numberplaceholder.png"_s)
+                                        : QVariant();
     case Qt::CheckStateRole:
         return int(entity->getSelectable() ? Qt::Checked : Qt::Unchecked);
     default:

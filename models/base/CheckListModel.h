@@ -1,10 +1,8 @@
 #pragma once
 
 #include "business/business_quillon_export.h"
+#include "model/TDcEntity.h"
 #include "models/base/RowListModel.h"
-
-class TDcEntity;
-class TDcVariable;
 
 /// The variables that a wizard offers, each with a check box that is kept in the variable itself.
 class BUSINESS_QUILLON_EXPORT CheckListModel : public RowListModel<TDcVariable>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "common/IconPaths.h"
 #include "models/base/DragListModel.h"
 #include "models/eEntityShowMode.h"
 
@@ -26,7 +25,7 @@ public:
         if (role == Qt::DisplayRole)
             return getItemData(this->itemAt(index), index.column());
         if (role == Qt::DecorationRole && index.isValid() && index.column() == 0)
-            return QIcon(IconPaths::projectPreferences);
+            return QIcon(QStringLiteral(":/icons/res/icons/48px-Project-preferences.png"));
         return {};
     }
 

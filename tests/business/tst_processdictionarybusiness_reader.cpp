@@ -164,6 +164,9 @@ private Q_SLOTS:
             << u"{'type': 'INTEGER'}"_s << u"[{'varType': 'INTEGER'}]"_s;
         QTest::addRow("numbers") << u"{'size': 4, 'notapp': 98, 'missing': -99, 'tag': 2}"_s
                                  << u"[{'size': 4, 'notappl': 98, 'missing': -99, 'tag': 2}]"_s;
+        QTest::addRow("fractions are rounded, not cut")
+            << u"{'size': 1.9, 'tag': 2.5, 'missing': -1.5, 'metadata': {'length': 1.5}}"_s
+            << u"[{'size': 2, 'missing': -2, 'tag': 3, 'metadata': {'length': 2}}]"_s;
         QTest::addRow("numbers as text") << u"{'size': '4', 'notapp': ' 98 ', 'missing': 'x', 'tag': '1.9'}"_s
                                          << u"[{'size': 4, 'notappl': 98}]"_s;
         QTest::addRow("asymmetry 2: fileName and local are stored as found")
@@ -246,7 +249,8 @@ private Q_SLOTS:
         ProcessDictionaryBusiness business;
         business.loadItemFromVariables(u"label"_s, &variable, object);
         COMPARE_JSON(dump(variable), json(u"{'label': 'L'}"_s));
-        for (const auto &key : {u"unknown"_s, u"Name"_s, u"size"_s, QString()})
+        // Nor does a key apply that the object has not: no empty metadata is made.
+        for (const auto &key : {u"unknown"_s, u"Name"_s, u"size"_s, u"metadata"_s, QString()})
             business.loadItemFromVariables(key, &variable, object);
         COMPARE_JSON(dump(variable), json(u"{'label': 'L'}"_s));
     }

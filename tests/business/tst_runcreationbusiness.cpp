@@ -179,6 +179,8 @@ private Q_SLOTS:
             << u"{'entities': [5, 'x', null, []]}"_s << u"{'entities': [{}, {}, {}, {}]}"_s;
         QTest::addRow("empty entities") << u"{'entities': []}"_s << u"{}"_s;
         QTest::addRow("an object is no list of entities") << u"{'entities': {'name': 'A'}}"_s << u"{}"_s;
+        QTest::addRow("a text is a list of its characters")
+            << u"{'entities': 'abc'}"_s << u"{'entities': [{}, {}, {}]}"_s;
         QTest::addRow("a number is no list of entities") << u"{'entities': 5}"_s << u"{}"_s;
         QTest::addRow("what is no object gives default parts")
             << u"{'database': 5, 'options': [true]}"_s << u"{}"_s;

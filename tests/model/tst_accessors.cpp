@@ -1,13 +1,15 @@
-#include "model/ConfigDb.h"
-#include "model/ConfigOptions.h"
-#include "model/Range.h"
+#include "model/Config.h"
+#include "model/SelectionTreeUnit.h"
+#include "model/TDcEntity.h"
 #include "model/TDcLookup.h"
 #include "model/TDcSourceField.h"
-#include "model/ValueLabelElement.h"
 #include "model/VarWipChoice.h"
 #include "tests/support/Accessors.h"
 
 #include <QTest>
+
+#include <tuple>
+#include <type_traits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,6 +19,20 @@ class tst_Accessors : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void onlyARangeIsAPlainValue()
+    {
+        static_assert(std::is_copy_constructible_v<Range> && std::is_copy_assignable_v<Range>);
+        const auto isFixed = []<typename... Class>(std::tuple<Class *...>) {
+            return ((
+                !std::is_copy_constructible_v<
+                    Class> && !std::is_move_constructible_v<Class> && !std::is_copy_assignable_v<Class> && !std::is_move_assignable_v<Class>)&&...);
+        };
+        static_assert(
+            isFixed(std::tuple<Config *, ConfigDb *, ConfigEntities *, ConfigOptions *, MetadataVariables *,
+                               SelectionTreeUnit *, TDcEntity *, TDcLookup *, TDcSourceField *, TDcVariable *,
+                               ValueLabelElement *, VarWipChoice *>()));
+    }
+
     void range()
     {
         Range range;

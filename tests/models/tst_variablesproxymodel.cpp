@@ -34,6 +34,17 @@ private Q_SLOTS:
         QCOMPARE(sorted(m_proxy, 2, {10, 9, 100}), (QStringList{u"10"_s, u"100"_s, u"9"_s}));
     }
 
+    void ordersATagAgainstAnotherColumnByText()
+    {
+        QStandardItemModel source;
+        setColumn(source, 3, {10});
+        setColumn(source, 4, {9});
+        m_proxy.setSourceModel(&source);
+        QVERIFY(!comesBefore(m_proxy, source.index(0, 4), source.index(0, 3)));
+        QVERIFY(comesBefore(m_proxy, source.index(0, 3), source.index(0, 4)));
+        m_proxy.setSourceModel(nullptr);
+    }
+
     void sortsTags_data()
     {
         QTest::addColumn<QVariantList>("tags");

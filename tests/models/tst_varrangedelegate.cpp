@@ -78,7 +78,14 @@ private Q_SLOTS:
 
     void fillsTheEditorFromTheEditRole()
     {
-        QStandardItemModel model(1, 1);
+        /// Displays something else than it edits.
+        struct Model : QStandardItemModel {
+            using QStandardItemModel::QStandardItemModel;
+            QVariant data(const QModelIndex &index, int role) const override
+            {
+                return role == Qt::DisplayRole ? 7 : QStandardItemModel::data(index, role);
+            }
+        } model(1, 1);
         model.setData(model.index(0, 0), u"12.5"_s, Qt::EditRole);
         const auto variable = makeRanged(u"REAL"_s, {});
         const VarRangeDelegate delegate(variable.get(), nullptr);

@@ -43,6 +43,16 @@ inline void setColumn(QStandardItemModel &model, int column, const QVariantList 
     return texts;
 }
 
+/// Asks \a proxy itself whether \a left comes before \a right: sorting only ever compares within a column.
+[[nodiscard]] inline bool comesBefore(const QSortFilterProxyModel &proxy, const QModelIndex &left,
+                                      const QModelIndex &right)
+{
+    struct Open : QSortFilterProxyModel {
+        static auto order() { return &Open::lessThan; }
+    };
+    return (proxy.*Open::order())(left, right);
+}
+
 /// The rows of \a source that a text search in its first columns accepts, found in the plainest way.
 [[nodiscard]] inline QList<int> plainlyFiltered(const QAbstractItemModel &source, int columns,
                                                 const QRegularExpression &expression)
@@ -256,6 +266,16 @@ inline void checkAddressOrder(QSortFilterProxyModel &proxy)
     // Only the first address of a text counts, however it is surrounded.
     QCOMPARE(sorted(proxy, 1, {QStringLiteral("(b@)z"), QStringLiteral("a@ z@"), QStringLiteral("@")}),
              (QStringList{QStringLiteral("@"), QStringLiteral("a@ z@"), QStringLiteral("(b@)z")}));
+    // Each text on its own: the other column's stays whole.
+    QStandardItemModel source;
+    setColumn(source, 0, {QStringLiteral("m a@x"), QStringLiteral("c a@x")});
+    setColumn(source, 1, {QStringLiteral("a z@x"), QStringLiteral("x b@x")});
+    proxy.setSourceModel(&source);
+    QVERIFY(!comesBefore(proxy, source.index(0, 1), source.index(0, 0)));
+    QVERIFY(comesBefore(proxy, source.index(0, 0), source.index(0, 1)));
+    QVERIFY(comesBefore(proxy, source.index(1, 1), source.index(1, 0)));
+    QVERIFY(!comesBefore(proxy, source.index(1, 0), source.index(1, 1)));
+    proxy.setSourceModel(nullptr);
 }
 
 /// Date-times are ordered by time; what the right cell holds is converted. What is compared is displayed,
@@ -271,6 +291,13 @@ inline void checkDateOrder(QSortFilterProxyModel &proxy, int column)
                  (QStringList{QVariant(early).toString(), QVariant(middle).toString(),
                               QVariant(late).toString()}));
     }
+    // A text to the right is read as a time: half past twelve here, though half past seven comes first as
+    // text.
+    QStandardItemModel source;
+    setColumn(source, column, {middle, QStringLiteral("2024-02-01T07:30:00-05:00")});
+    proxy.setSourceModel(&source);
+    QVERIFY(comesBefore(proxy, source.index(0, column), source.index(1, column)));
+    proxy.setSourceModel(nullptr);
 }
 
 /// Clicks the header of \a column and returns what the view then shows there.
