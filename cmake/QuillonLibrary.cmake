@@ -42,6 +42,8 @@ function(quillon_add_test name)
     add_executable(${name} ${name}.cpp ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} quillon_test_support Qt6::Test)
+    target_precompile_headers(${name} REUSE_FROM quillon_test_headers)
+    target_compile_options(${name} PRIVATE -fpch-preprocess) # Lets the compiler cache see through them.
     if(ARG_SOURCE_TREE)
         target_compile_definitions(${name} PRIVATE QUILLON_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     endif()

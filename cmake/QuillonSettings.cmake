@@ -35,5 +35,5 @@ find_program(QUILLON_CCACHE ccache)
 if(QUILLON_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     # Relative to the source folder, so that two checkouts share what they compile.
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}"
-        CCACHE_NOHASHDIR=1 "${QUILLON_CCACHE}")
+        CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros "${QUILLON_CCACHE}")
 endif()
