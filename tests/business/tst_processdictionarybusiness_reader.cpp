@@ -166,7 +166,7 @@ private Q_SLOTS:
                                  << u"[{'size': 4, 'notappl': 98, 'missing': -99, 'tag': 2}]"_s;
         QTest::addRow("fractions are rounded, not cut")
             << u"{'size': 1.9, 'tag': 2.5, 'missing': -1.5, 'metadata': {'length': 1.5}}"_s
-            << u"[{'size': 2, 'missing': -2, 'tag': 3, 'metadata': {'length': 2}}]"_s;
+            << u"[{'size': 2, 'missing': -2, 'tag': 3, 'fieldSize': 2, 'metadata': {'length': 2}}]"_s;
         QTest::addRow("numbers as text") << u"{'size': '4', 'notapp': ' 98 ', 'missing': 'x', 'tag': '1.9'}"_s
                                          << u"[{'size': 4, 'notappl': 98}]"_s;
         QTest::addRow("asymmetry 2: fileName and local are stored as found")
