@@ -2,12 +2,11 @@
 
 #include "business/ProcessDictionaryBusiness.h"
 #include "documents/internal/DictionaryDocument.h"
+#include "documents/internal/DictionaryShape.h"
 #include "documents/internal/JsonText.h"
 #include "documents/internal/Keys.h"
 #include "model/OwnedList.h"
 #include "model/TDcEntity.h"
-
-#include <algorithm>
 
 using namespace Elements;
 using namespace Qt::Literals::StringLiterals;
@@ -19,23 +18,6 @@ struct DictionaryFile::Frame {
     QVariantMap others; ///< The other keys beside the root's.
     JsonText::Style style;
 };
-
-namespace
-{
-/// Whether \a map is an entity, not an object that holds one under "entities" or "root". Both may have a
-/// name; an entity has its children under "entities", and its keys are written nowhere else.
-bool isEntity(const QVariantMap &map)
-{
-    const auto hasOneOf = [&map](std::initializer_list<QLatin1StringView> keys) {
-        return std::any_of(keys.begin(), keys.end(), [&map](auto key) { return map.contains(key); });
-    };
-    if (hasOneOf({"codeVar"_L1, "labelVar"_L1, "selectable"_L1, "variables"_L1, "virtual"_L1, "weightVar"_L1,
-                  "weigthVar"_L1}))
-        return true;
-    const bool isNamed = hasOneOf({"alias"_L1, "documentation"_L1, "label"_L1, "name"_L1});
-    return isNamed && (map.contains(u"entities"_s) || !map.contains(u"root"_s));
-}
-} // namespace
 
 DictionaryFile::DictionaryFile() : m_root(std::make_unique<TDcEntity>()), m_frame(std::make_unique<Frame>())
 {
@@ -70,7 +52,8 @@ bool DictionaryFile::load(const QByteArray &bytes)
 
     Frame frame{.key = {}, .form = Form::Single, .others = {}, .style = text.style};
     QVariant roots = text.value;
-    if (QVariantMap map = text.value.toMap(); !isEntity(map) && roots.typeId() == QMetaType::QVariantMap) {
+    if (QVariantMap map = text.value.toMap();
+        !DictionaryShape::isEntity(map) && roots.typeId() == QMetaType::QVariantMap) {
         frame.key = map.contains(u"entities"_s) ? u"entities"_s : u"root"_s;
         roots = map.take(frame.key);
         frame.others = map;

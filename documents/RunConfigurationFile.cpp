@@ -2,6 +2,7 @@
 
 #include "business/RunCreationBusiness.h"
 #include "documents/internal/ConfigDocument.h"
+#include "documents/internal/DictionaryShape.h"
 #include "documents/internal/JsonText.h"
 #include "model/Config.h"
 
@@ -25,6 +26,8 @@ bool RunConfigurationFile::load(const QByteArray &bytes)
     if (text.value.typeId() != QMetaType::QVariantMap)
         return fail(Error::NoRoot, tr("There is no run configuration."));
     const QVariantMap map = text.value.toMap();
+    if (DictionaryShape::isNoRunConfiguration(map))
+        return fail(Error::NoRoot, tr("This is a dictionary, not a run configuration."));
     m_config.reset(RunCreationBusiness().recorrerNodosEntitiesJsonYCargaEstructuraConfig(map));
     ConfigDocument::remember(*m_config, map);
     m_byteOrderMark = text.style.byteOrderMark;

@@ -12,6 +12,8 @@ class Config;
 /// What objects cannot hold is kept as in a DictionaryFile. Filters, the project and the marks of entities,
 /// which the layer reads and does not write, are written.
 ///
+/// Nearly any object opens as a run configuration, since the layer reads leniently; a dictionary does not.
+///
 /// A file with a password, which stands there in clear text, is made readable by its owner alone.
 class DOCUMENTS_EXPORT RunConfigurationFile : public DocumentFile
 {

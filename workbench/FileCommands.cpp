@@ -91,26 +91,26 @@ void FileCommands::chooseAndOpen()
         QFileDialog::getOpenFileName(m_workspace.window, tr("Open Dictionary"), FileDialogs::lastFolder(),
                                      Constants::dictionaryFilter + tr("All files (*)"));
     if (!path.isEmpty())
-        open(path);
+        Q_EMIT chosen(path);
 }
 
-bool FileCommands::open(const QString &path)
+FileCommands::Opening FileCommands::tryOpen(const QString &path)
 {
     if (!mayClose())
-        return false;
+        return Opening::Cancelled;
     const auto access = chooseAccess(path);
     if (!access)
-        return false;
+        return Opening::Cancelled;
     if (!m_workspace.document->open(path, *access)) {
-        if (m_workspace.document->errorText().isEmpty()) // Cancelled: the person knows.
-            return false;
+        if (m_workspace.document->errorText().isEmpty()) // The person knows.
+            return Opening::Cancelled;
         RecentFiles::remove(QFileInfo(path).absoluteFilePath());
         FileDialogs::showCannotOpen(m_workspace.window, path, m_workspace.document->errorText());
-        return false;
+        return Opening::Failed;
     }
     RecentFiles::add(path);
     FileDialogs::rememberFolder(path);
-    return true;
+    return Opening::Done;
 }
 
 bool FileCommands::save()

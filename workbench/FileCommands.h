@@ -19,11 +19,17 @@ public:
 
     /// Whether the open dictionary may go: nothing is unsaved, or the person saved it or said so.
     [[nodiscard]] bool mayClose();
+    enum class Opening { Done, Failed, Cancelled };
     /// Opens \a path after mayClose(), and shows what is wrong if it cannot be opened.
-    bool open(const QString &path);
+    Opening tryOpen(const QString &path);
+    bool open(const QString &path) { return tryOpen(path) == Opening::Done; }
 
     /// Whether \a path is called as dictionaries are.
     [[nodiscard]] static bool isDictionary(const QString &path);
+
+Q_SIGNALS:
+    /// The person wants the file at \a path opened, whatever it is.
+    void chosen(const QString &path);
 
 private:
     void create();

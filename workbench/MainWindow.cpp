@@ -57,7 +57,8 @@ MainWindow::MainWindow(QWidget *parent)
     m_actions.place(this);
     finishEditingFirst();
     m_files = new FileCommands({&m_document, &m_selection, &m_actions, this}, this);
-    m_runs = new RunCommands({&m_document, &m_selection, &m_actions, this}, this);
+    m_runs = new RunCommands({&m_document, &m_selection, &m_actions, this}, m_files, this);
+    connect(m_files, &FileCommands::chosen, this, &MainWindow::open);
     m_recovery =
         new RecoveryCommands({&m_document, &m_selection, &m_actions, this}, m_files, &m_journal, this);
     m_sessionEnd = new SessionEnd(m_files, &m_journal, this);
@@ -259,4 +260,11 @@ void MainWindow::open(const QString &path)
         m_runs->open(path);
     else
         m_files->open(path);
+}
+
+QString MainWindow::openUnasked(const QString &path)
+{
+    if (RunCommands::isRunConfiguration(path))
+        return m_runs->openUnasked(path);
+    return m_document.open(path) ? QString() : m_document.errorText();
 }

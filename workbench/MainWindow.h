@@ -34,6 +34,8 @@ public:
 
     /// Opens the dictionary or the run configuration at \a path.
     void open(const QString &path);
+    /// The same without asking or telling anybody: returns why it cannot be opened, empty when it was.
+    [[nodiscard]] QString openUnasked(const QString &path);
 
     /// Puts docks and size as they are before anybody moves them.
     void setPlainLayout();

@@ -27,13 +27,16 @@ int fail(const QString &message)
 /// Draws \a window as it is shown once all layouts have settled.
 int screenshot(MainWindow &window, const CommandLine &line)
 {
-    if (!line.file.isEmpty() && !window.document()->open(line.file))
-        return fail(line.file + u": "_s + window.document()->errorText());
+    const QString why = line.file.isEmpty() ? QString() : window.openUnasked(line.file);
+    if (!why.isEmpty())
+        return fail(line.file + u": "_s + why);
     if (!line.selection.isEmpty() && !window.selection()->select(line.selection))
         return fail(QApplication::translate("main", "There is no %1 in the dictionary.").arg(line.selection));
     QApplication::processEvents();
     QApplication::processEvents();
-    if (!window.grab().save(line.screenshot))
+    // A run configuration opens in front of the window.
+    QWidget *front = QApplication::activeModalWidget();
+    if (!(front ? front : &window)->grab().save(line.screenshot))
         return fail(
             QApplication::translate("main", "The picture cannot be written to %1.").arg(line.screenshot));
     return 0;

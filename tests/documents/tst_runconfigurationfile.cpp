@@ -155,6 +155,42 @@ private Q_SLOTS:
         QCOMPARE(configuration.error(), DocumentFile::Error::NoRoot);
     }
 
+    void aDictionaryIsNoConfiguration_data()
+    {
+        QTest::addColumn<QJsonDocument>("document");
+        QTest::addColumn<bool>("opens");
+        QTest::addRow("under root") << json("{'root': [{'name': 'CENSUS'}]}") << false;
+        QTest::addRow("under root, as an object") << json("{'root': {'name': 'CENSUS'}}") << false;
+        QTest::addRow("the root itself") << json("{'name': 'CENSUS', 'entities': [{'name': 'A'}]}") << false;
+        QTest::addRow("the root with variables") << json("{'name': 'CENSUS', 'variables': []}") << false;
+        QTest::addRow("entities with children")
+            << json("{'entities': [{'name': 'CENSUS', 'entities': [{'name': 'A'}]}]}") << false;
+        QTest::addRow("an entity alone") << json("{'entities': {'name': 'A', 'codeVar': 'ID'}}") << false;
+        QTest::addRow("entities with variables")
+            << json("{'entities': [{'name': 'A', 'variables': [{'name': 'SEX'}]}]}") << false;
+        QTest::addRow("a root beside a database") << json("{'database': {}, 'root': {'name': 'A'}}") << true;
+        QTest::addRow("a root that says what it is")
+            << json("{'type': 'config', 'root': {'name': 'A'}}") << true;
+        QTest::addRow("a root that is none") << json("{'root': 5}") << true;
+        QTest::addRow("a label alone") << json("{'label': 'L', 'options': {}}") << true;
+        QTest::addRow("entities by name")
+            << json("{'entities': [{'name': 'A', 'variables': ['SEX'], 'selectable': true}]}") << true;
+        QTest::addRow("names that are objects")
+            << json("{'entities': [{'name': 'A', 'variables': [{'value': 1}]}]}") << true;
+    }
+
+    void aDictionaryIsNoConfiguration()
+    {
+        QFETCH(const QJsonDocument, document);
+        QFETCH(const bool, opens);
+        const TemporaryFile file(document.toJson());
+        RunConfigurationFile configuration;
+        QCOMPARE(configuration.open(file.path()), opens);
+        QCOMPARE(configuration.error(), opens ? DocumentFile::Error::None : DocumentFile::Error::NoRoot);
+        if (!opens)
+            QVERIFY(configuration.errorText().endsWith(u"This is a dictionary, not a run configuration."_s));
+    }
+
     void aFileWithAPasswordIsForItsOwnerAlone()
     {
         Opened opened(whole("'name': 'N'"));

@@ -3130,12 +3130,36 @@
         <source>Saved %1</source>
         <translation>%1 gespeichert</translation>
     </message>
+    <message>
+        <source>The run configuration was made for this dictionary, which is not there. It is shown with the dictionary that is open.</source>
+        <translation>Die Laufkonfiguration wurde für dieses Wörterbuch erstellt, das nicht da ist. Sie wird mit dem geöffneten Wörterbuch gezeigt.</translation>
+    </message>
+    <message>
+        <source>“%1” was made for another dictionary than the one that is open.</source>
+        <translation>„%1“ wurde für ein anderes Wörterbuch als das geöffnete erstellt.</translation>
+    </message>
+    <message>
+        <source>It was made for “%1”. Open that dictionary instead of “%2”?</source>
+        <translation>Sie wurde für „%1“ erstellt. Dieses Wörterbuch anstelle von „%2“ öffnen?</translation>
+    </message>
+    <message>
+        <source>&amp;Open It</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the Open One</source>
+        <translation>Geöffnetes &amp;behalten</translation>
+    </message>
 </context>
 <context>
     <name>RunConfigurationFile</name>
     <message>
         <source>There is no run configuration.</source>
         <translation>Es gibt keine Laufkonfiguration.</translation>
+    </message>
+    <message>
+        <source>This is a dictionary, not a run configuration.</source>
+        <translation>Das ist ein Wörterbuch, keine Laufkonfiguration.</translation>
     </message>
 </context>
 <context>

@@ -3130,12 +3130,36 @@
         <source>Saved %1</source>
         <translation>Se guardó %1</translation>
     </message>
+    <message>
+        <source>The run configuration was made for this dictionary, which is not there. It is shown with the dictionary that is open.</source>
+        <translation>La configuración de ejecución se hizo para este diccionario, que no está ahí. Se muestra con el diccionario abierto.</translation>
+    </message>
+    <message>
+        <source>“%1” was made for another dictionary than the one that is open.</source>
+        <translation>«%1» se hizo para otro diccionario que el que está abierto.</translation>
+    </message>
+    <message>
+        <source>It was made for “%1”. Open that dictionary instead of “%2”?</source>
+        <translation>Se hizo para «%1». ¿Abrir ese diccionario en lugar de «%2»?</translation>
+    </message>
+    <message>
+        <source>&amp;Open It</source>
+        <translation>A&amp;brirlo</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the Open One</source>
+        <translation>&amp;Conservar el abierto</translation>
+    </message>
 </context>
 <context>
     <name>RunConfigurationFile</name>
     <message>
         <source>There is no run configuration.</source>
         <translation>No hay configuración de ejecución.</translation>
+    </message>
+    <message>
+        <source>This is a dictionary, not a run configuration.</source>
+        <translation>Esto es un diccionario, no una configuración de ejecución.</translation>
     </message>
 </context>
 <context>
