@@ -10,9 +10,11 @@
 
 VariableTarget::VariableTarget(TDcEntity *root, TDcEntity *entity, const QList<TDcVariable *> &displayed,
                                const QList<int> &columns)
-    : m_root(root), m_entity(entity), m_variables(displayed), m_properties(properties(columns)),
-      m_displayedColumns(int(columns.size()))
+    : m_root(root), m_entity(entity), m_nextTag(VariableEdits::nextTag(*entity)),
+      m_properties(properties(columns)), m_displayedColumns(int(columns.size()))
 {
+    for (TDcVariable *variable : displayed)
+        append(variable);
     // Those that a filter hides have their names too. The first of a name counts.
     const QList<TDcVariable *> &all = *entity->getVariables();
     for (qsizetype i = all.size() - 1; i >= 0; --i)
@@ -38,6 +40,13 @@ void VariableTarget::remember(const QString &name, TDcVariable *variable)
     m_byFoldedName.insert(name.trimmed().toCaseFolded(), variable);
 }
 
+int VariableTarget::append(TDcVariable *variable)
+{
+    m_variables.append(variable);
+    m_rows.insert(variable, rowCount() - 1);
+    return rowCount() - 1;
+}
+
 QList<PasteTarget::Column> VariableTarget::columns() const
 {
     QList<Column> columns;
@@ -61,17 +70,15 @@ int VariableTarget::find(const QStringList &keys)
     TDcVariable *variable = m_byName.value(name, m_byFoldedName.value(name.toCaseFolded()));
     if (!variable)
         return -1;
-    if (const qsizetype row = m_variables.indexOf(variable); row >= 0)
-        return int(row);
-    m_variables.append(variable);
-    return rowCount() - 1;
+    const auto row = m_rows.constFind(variable);
+    return row == m_rows.cend() ? append(variable) : *row;
 }
 
 void VariableTarget::add(const QStringList &keys)
 {
     // The name is stored later, as any other cell is; until then it is in nobody's way.
-    TDcVariable *variable = VariableEdits::add(m_entity, {});
-    m_variables.append(variable);
+    TDcVariable *variable = VariableEdits::add(m_entity, {}, m_nextTag++);
+    append(variable);
     m_added.append(variable);
     if (!keys.isEmpty())
         remember(keys.constFirst(), variable);

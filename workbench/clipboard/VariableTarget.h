@@ -33,11 +33,14 @@ public:
 
 private:
     void remember(const QString &name, TDcVariable *variable);
+    int append(TDcVariable *variable);
 
     TDcEntity *m_root; // Not owned.
     TDcEntity *m_entity; // Not owned.
     QList<TDcVariable *> m_variables; // By row; owned by the entity. Null once discarded.
+    QHash<const TDcVariable *, int> m_rows; // The other way round.
     QList<TDcVariable *> m_added;
+    int m_nextTag;
     QList<VariableProperty> m_properties; // By column.
     int m_displayedColumns;
     QHash<QString, TDcVariable *> m_byName;

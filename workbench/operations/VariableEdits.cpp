@@ -13,14 +13,6 @@ namespace
 {
 using VariableEdits::Role;
 
-int highestTag(const TDcEntity &entity)
-{
-    int highest = 0;
-    for (const TDcVariable *variable : std::as_const(*entity.getVariables()))
-        highest = std::max(highest, variable->getTag());
-    return highest;
-}
-
 QString roleName(const TDcEntity &entity, Role role)
 {
     switch (role) {
@@ -50,12 +42,25 @@ void setRoleName(TDcEntity &entity, Role role, const QString &name)
 }
 } // namespace
 
+int VariableEdits::nextTag(const TDcEntity &entity)
+{
+    int highest = 0;
+    for (const TDcVariable *variable : std::as_const(*entity.getVariables()))
+        highest = std::max(highest, variable->getTag());
+    return highest + 1;
+}
+
 TDcVariable *VariableEdits::add(TDcEntity *entity, const QString &name)
+{
+    return add(entity, name, nextTag(*entity));
+}
+
+TDcVariable *VariableEdits::add(TDcEntity *entity, const QString &name, int tag)
 {
     auto *variable = new TDcVariable;
     variable->setName(name);
     variable->setVarType(Constants::typeInteger);
-    variable->setTag(highestTag(*entity) + 1);
+    variable->setTag(tag);
     variable->setLevel(entity->getLevel());
     entity->addVariables(variable);
     return variable;
@@ -65,12 +70,12 @@ QList<TDcVariable *> VariableEdits::duplicate(TDcEntity *root, TDcEntity *entity
                                               const QList<TDcVariable *> &variables)
 {
     QList<TDcVariable *> copies;
-    int tag = highestTag(*entity);
+    int tag = nextTag(*entity);
     for (const TDcVariable *variable : variables) {
         std::unique_ptr<TDcVariable> copy = DictionaryCopy::copy(*variable);
         copy->setName(NewNames::variable(root, entity, variable->getName()));
         copy->setAlias({});
-        copy->setTag(++tag);
+        copy->setTag(tag++);
         copies.append(copy.get());
         entity->addVariables(copy.release());
     }

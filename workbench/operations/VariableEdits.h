@@ -12,8 +12,12 @@ namespace VariableEdits
 /// What a variable can be for its entity.
 enum class Role { RefCode, RefLabel, Weight };
 
-/// Adds a whole-number variable called \a name at the end, with the tag after the highest.
+/// The tag after the highest of \a entity.
+[[nodiscard]] int nextTag(const TDcEntity &entity);
+/// Adds a whole-number variable called \a name at the end, with the next tag.
 TDcVariable *add(TDcEntity *entity, const QString &name);
+/// The same with \a tag, for whoever adds many and counts.
+TDcVariable *add(TDcEntity *entity, const QString &name, int tag);
 /// Adds a copy of each of \a variables at the end, with free names and without alias.
 QList<TDcVariable *> duplicate(TDcEntity *root, TDcEntity *entity, const QList<TDcVariable *> &variables);
 

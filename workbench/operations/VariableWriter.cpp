@@ -1,5 +1,7 @@
 #include "workbench/operations/VariableWriter.h"
 
+#include "common/DictionaryUtil.h"
+#include "common/Validate.h"
 #include "model/TDcEntity.h"
 #include "model/TDcVariable.h"
 #include "workbench/operations/Numbers.h"
@@ -11,6 +13,15 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 using Kind = VariableProperty::Kind;
+
+/// Columns of the model in which it refuses what is taken.
+enum Column { Name, Alias, Group = 3 };
+
+/// \a name as Validate::compare() compares it.
+QString folded(const QString &name)
+{
+    return name.toUpper().trimmed();
+}
 
 std::optional<bool> flag(const QString &text)
 {
@@ -27,10 +38,37 @@ std::optional<bool> flag(const QString &text)
 }
 } // namespace
 
-VariableWriter::VariableWriter(TDcEntity *root, TDcEntity *entity) : m_model(nullptr, entity, root)
+VariableWriter::VariableWriter(TDcEntity *root, TDcEntity *entity)
+    : m_entity(entity), m_model(nullptr, entity, root)
 {
     for (int row = 0; row < m_model.rowCount(); ++row)
         m_rows.insert(entity->getVariables()->at(row), row);
+    DictionaryUtil names;
+    QList<QString> taken = names.getNamesEntitiesDictionary(root, {});
+    taken = names.getNamesVariablesByEntities(entity, taken);
+    taken = names.getAliasVariableByEntity(entity, taken);
+    for (const QString &name : std::as_const(taken))
+        remember(name);
+}
+
+void VariableWriter::remember(const QString &name)
+{
+    m_taken.insert(folded(name));
+}
+
+/// Whether the model would store \a text without a question.
+bool VariableWriter::isCertain(const TDcVariable &variable, int column, const QString &text) const
+{
+    if (column != Name && column != Alias && column != Group)
+        return false; // The model has no names to gather, and may not store it as it is.
+    if (m_taken.contains(folded(text)))
+        return false;
+    if (column != Name)
+        return true;
+    const QString name = variable.getName().trimmed();
+    Validate rules;
+    return rules.validateEmpty(text) && rules.validateStringC(text)
+        && (name.isEmpty() || name != m_entity->getRefCode());
 }
 
 QString VariableWriter::write(TDcVariable *variable, const VariableProperty &property, const QVariant &value)
@@ -42,10 +80,19 @@ QString VariableWriter::write(TDcVariable *variable, const VariableProperty &pro
         property.set(*variable, value);
         return {};
     }
+    const bool certain = isCertain(*variable, property.column, value.toString());
+    const bool nameless = property.column == Name && variable->getName().trimmed().isEmpty();
+    const QString code = m_entity->getRefCode();
     const QModelIndex index = m_model.index(m_rows.value(variable, -1), property.column);
-    const bool stored = m_model.setData(index, value, Qt::EditRole);
+    if (certain)
+        property.set(*variable, value);
+    const bool stored = certain || m_model.setData(index, value, Qt::EditRole);
     const QStringList said = m_messages.take();
+    if (nameless)
+        m_entity->setRefCode(code); // The model takes two empty names for one.
     if (stored) {
+        if (property.column == Name || property.column == Alias)
+            remember(property.get(*variable).toString());
         const QVariant now = property.get(*variable);
         return now == value ? QString() : tr("It was stored as \"%1\".").arg(now.toString());
     }

@@ -6,13 +6,17 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QSet>
 
 class TDcEntity;
 class TDcVariable;
 
 /// Writes properties of an entity's variables, through the variable table's model where that has rules for
 /// them, and answers in words instead of message boxes. It knows the variables that the entity has when the
-/// writer is made. A reference code follows its variable's new name.
+/// writer is made. A reference code follows its variable's new name; a variable without a name is none.
+///
+/// The model gathers all names of the dictionary at each edit. It is not asked where its answer is certain,
+/// so that many edits cost no more than in proportion to their number.
 class VariableWriter
 {
     Q_DECLARE_TR_FUNCTIONS(VariableWriter)
@@ -33,7 +37,12 @@ public:
     [[nodiscard]] static QString text(const TDcVariable &variable, const VariableProperty &property);
 
 private:
+    [[nodiscard]] bool isCertain(const TDcVariable &variable, int column, const QString &text) const;
+    void remember(const QString &name);
+
+    TDcEntity *m_entity; // Not owned.
     VariableDiccionaryModel m_model;
     QHash<const TDcVariable *, int> m_rows;
+    QSet<QString> m_taken; // Names that may clash, as they are compared; those that are gone too.
     CollectedMessages m_messages;
 };
