@@ -292,6 +292,11 @@ QList<Actions::Row> Actions::table()
          TEXT("&Open Run Configuration…"),
          TEXT("Change a run configuration that was saved")},
 
+        {ViewNextPane, MenuId::View, MenuOnly, nullptr, "F6", TEXT("&Next Pane"),
+         TEXT("Go on with the keyboard in the next part of the window")},
+        {ViewPreviousPane, MenuId::View, MenuOnly, nullptr, "Shift+F6", TEXT("&Previous Pane"),
+         TEXT("Go back with the keyboard to the part of the window before")},
+
         {HelpAbout,
          MenuId::Help,
          MenuOnly,

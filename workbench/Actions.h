@@ -61,6 +61,8 @@ enum class ActionId {
     ToolsAreas,
     ToolsNewRun,
     ToolsOpenRun,
+    ViewNextPane,
+    ViewPreviousPane,
     HelpAbout,
 };
 

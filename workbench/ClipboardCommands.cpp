@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTableView>
@@ -64,6 +65,9 @@ ClipboardTable *ClipboardCommands::focused()
 
 void ClipboardCommands::updateActions()
 {
+    // The menu bar has the keyboard only until something is chosen, for what had it before.
+    if (qobject_cast<QMenuBar *>(QApplication::focusWidget()))
+        return;
     const bool any = focused() || focusedText();
     (*m_workspace.actions)[ActionId::EditCopy]->setEnabled(any);
     (*m_workspace.actions)[ActionId::EditPaste]->setEnabled(any);

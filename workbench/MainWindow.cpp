@@ -19,6 +19,7 @@
 #include "workbench/panels/ValueLabelsPanel.h"
 #include "workbench/panels/VariableTablePanel.h"
 #include "workbench/panels/Widgets.h"
+#include "workbench/Panes.h"
 #include "workbench/RecoveryCommands.h"
 #include "workbench/run/RunCommands.h"
 #include "workbench/SessionEnd.h"
@@ -62,6 +63,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_recovery =
         new RecoveryCommands({&m_document, &m_selection, &m_actions, this}, m_files, &m_journal, this);
     m_sessionEnd = new SessionEnd(m_files, &m_journal, this);
+    m_panes = new Panes(this, m_actions);
     addPanels();
     ExpressionDialog::addTo({&m_document, &m_selection, &m_actions, this});
     AreaSelectionDialog::addTo({&m_document, &m_selection, &m_actions, this});
@@ -92,6 +94,8 @@ void MainWindow::addPanels()
     const Workspace workspace{&m_document, &m_selection, &m_actions, this};
     auto *table = new VariableTablePanel(workspace, this);
     setCentralWidget(table);
+    m_panes->add(table);
+    m_actions.menu(MenuId::View)->addSeparator();
     QDockWidget *tree =
         addDock(tr("Entities"), u"entities"_s, new EntityTreePanel(workspace, this), Qt::LeftDockWidgetArea);
     QDockWidget *entity =
@@ -151,8 +155,8 @@ QDockWidget *MainWindow::addDock(const QString &title, const QString &objectName
     dock->setObjectName(objectName);
     dock->setWidget(panel);
     addDockWidget(area, dock);
+    m_panes->add(dock);
     m_actions.menu(MenuId::View)->addAction(dock->toggleViewAction());
-    m_actions.menu(MenuId::View)->menuAction()->setVisible(true);
     return dock;
 }
 

@@ -9,6 +9,7 @@
 
 class FileCommands;
 class Inspector;
+class Panes;
 class RecoveryCommands;
 class RunCommands;
 class SessionEnd;
@@ -67,5 +68,6 @@ private:
     RunCommands *m_runs;
     RecoveryCommands *m_recovery;
     SessionEnd *m_sessionEnd;
+    Panes *m_panes;
     QByteArray m_plainState;
 };

@@ -18,8 +18,11 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QTableView>
 #include <QTest>
+#include <QTreeView>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,6 +42,7 @@ private Q_SLOTS:
     void leavesTextToItsEditor();
     void copiesAndPastesLabelsAndRanges();
     void isOffWithoutATable();
+    void isOnInTheMenu();
 
 private:
     void press(QWidget *widget, QKeySequence::StandardKey key)
@@ -208,6 +212,28 @@ void TestClipboard::isOffWithoutATable()
     m_window->setFocus();
     QVERIFY(!actions[ActionId::EditCopy]->isEnabled());
     QVERIFY(!actions[ActionId::EditPaste]->isEnabled());
+}
+
+void TestClipboard::isOnInTheMenu()
+{
+    QApplication::clipboard()->clear();
+    table()->selectRow(1);
+    const QAction *copy = (*m_window->actions())[ActionId::EditCopy];
+    m_window->menuBar()->setFocus(Qt::MenuBarFocusReason);
+    QVERIFY(m_window->menuBar()->hasFocus());
+    QVERIFY(copy->isEnabled());
+    QVERIFY((*m_window->actions())[ActionId::EditPaste]->isEnabled());
+    table()->setFocus();
+    QTest::keyClick(table(), Qt::Key_E, Qt::AltModifier);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QTest::keyClick(menu, Qt::Key_C);
+    QVERIFY(QApplication::clipboard()->text().contains(u"AGE"_s));
+    // The window's other controls have nothing to copy.
+    m_window->findChild<QTreeView *>()->setFocus();
+    QVERIFY(!copy->isEnabled());
+    m_window->menuBar()->setFocus(Qt::MenuBarFocusReason);
+    QVERIFY(!copy->isEnabled());
 }
 
 QTEST_MAIN(TestClipboard)

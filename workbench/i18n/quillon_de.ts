@@ -467,6 +467,22 @@
         <source>Look for changes that were not saved before the workbench ended</source>
         <translation>Nach Änderungen suchen, die vor dem Ende des Programms nicht gespeichert wurden</translation>
     </message>
+    <message>
+        <source>&amp;Next Pane</source>
+        <translation>&amp;Nächster Bereich</translation>
+    </message>
+    <message>
+        <source>Go on with the keyboard in the next part of the window</source>
+        <translation>Mit der Tastatur im nächsten Teil des Fensters weitermachen</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Pane</source>
+        <translation>&amp;Voriger Bereich</translation>
+    </message>
+    <message>
+        <source>Go back with the keyboard to the part of the window before</source>
+        <translation>Mit der Tastatur in den Teil des Fensters davor zurückgehen</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>

@@ -467,6 +467,22 @@
         <source>Look for changes that were not saved before the workbench ended</source>
         <translation>Buscar cambios que no se guardaron antes de que terminara el programa</translation>
     </message>
+    <message>
+        <source>&amp;Next Pane</source>
+        <translation>Panel &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Go on with the keyboard in the next part of the window</source>
+        <translation>Seguir con el teclado en la parte siguiente de la ventana</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Pane</source>
+        <translation>Panel &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Go back with the keyboard to the part of the window before</source>
+        <translation>Volver con el teclado a la parte anterior de la ventana</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
