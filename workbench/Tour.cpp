@@ -115,7 +115,11 @@ bool Tour::go(const QString &path)
         return false;
     }
     m_copy = QDir(m_folder).filePath(original.fileName());
-    QFile::remove(m_copy);
+    // It may be anybody's, even the dictionary itself.
+    if (QFileInfo::exists(m_copy)) {
+        m_error = tr("There is a file %1 already. Choose an empty folder.").arg(m_copy);
+        return false;
+    }
     if (!QFile::copy(path, m_copy)) {
         m_error = tr("%1 cannot be copied to %2.").arg(path, m_folder);
         return false;

@@ -25,8 +25,8 @@ public:
 
     /// Goes round with a copy of the dictionary at \a path, which stays as it is; the copy is in the folder
     /// afterwards, changed and saved. A data file (.sav) beside it serves as source, and
-    /// areas.csv as area units. False when something
-    /// was not as it should be, and errorText() says what.
+    /// areas.csv as area units. False when something was not as it should be, for instance a file of that
+    /// name is in the folder already, and errorText() says what.
     [[nodiscard]] bool go(const QString &path);
     [[nodiscard]] QString errorText() const { return m_error; }
 

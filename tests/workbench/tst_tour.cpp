@@ -21,6 +21,8 @@ private Q_SLOTS:
 
     void goesRoundTheSample();
     void leavesTheOriginalAsItIs();
+    void touchesNoFileThatIsThere_data();
+    void touchesNoFileThatIsThere();
     void goesRoundADictionaryWithoutVariables();
     void saysWhatIsWrong_data();
     void saysWhatIsWrong();
@@ -100,6 +102,30 @@ void TestTour::leavesTheOriginalAsItIs()
     QVERIFY2(tour.go(original), qUtf8Printable(tour.errorText()));
     file.seek(0);
     QCOMPARE(file.readAll(), before);
+}
+
+void TestTour::touchesNoFileThatIsThere_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("the dictionary's own folder") << QString();
+    QTest::newRow("its own folder, written otherwise") << u"tour/.."_s;
+    QTest::newRow("another dictionary of that name") << u"other"_s;
+}
+
+void TestTour::touchesNoFileThatIsThere()
+{
+    QFETCH(const QString, folder);
+    const QString original = m_folder->filePath(u"mine.mvdb"_s);
+    QVERIFY(QFile::copy(sample(), original));
+    QVERIFY(QDir(m_folder->path()).mkpath(u"other"_s));
+    QVERIFY(QFile::copy(sample(), m_folder->filePath(u"other/mine.mvdb"_s)));
+    Tour tour(m_window.get(), m_folder->filePath(folder));
+    QVERIFY(!tour.go(original));
+    QVERIFY2(tour.errorText().contains(u"mine.mvdb"_s), qUtf8Printable(tour.errorText()));
+    for (const QString &path : {original, m_folder->filePath(u"other/mine.mvdb"_s)}) {
+        Document document;
+        QVERIFY2(document.open(path), qUtf8Printable(path));
+    }
 }
 
 void TestTour::goesRoundADictionaryWithoutVariables()

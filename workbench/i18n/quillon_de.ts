@@ -3658,6 +3658,10 @@
         <source>Identical sets of value labels are edited once.</source>
         <translation>Gleiche Sätze von Wertelabels werden einmal bearbeitet.</translation>
     </message>
+    <message>
+        <source>There is a file %1 already. Choose an empty folder.</source>
+        <translation>Die Datei %1 gibt es schon. Wählen Sie einen leeren Ordner.</translation>
+    </message>
 </context>
 <context>
     <name>UtilForms</name>

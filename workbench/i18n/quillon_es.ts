@@ -3658,6 +3658,10 @@
         <source>Identical sets of value labels are edited once.</source>
         <translation>Los conjuntos iguales de etiquetas de valor se editan una sola vez.</translation>
     </message>
+    <message>
+        <source>There is a file %1 already. Choose an empty folder.</source>
+        <translation>Ya hay un archivo %1. Elija una carpeta vacía.</translation>
+    </message>
 </context>
 <context>
     <name>UtilForms</name>
