@@ -29,6 +29,11 @@ private Q_SLOTS:
     void showsMixedValues();
     void writesOnlyWhatWasTouched();
     void emptiesTextsButNoNumbers();
+    void leavesMixedValuesThatAreEmptyAgain();
+    void saysThatMixedTextsWillBeEmptied();
+    void ticksNoBoxWithoutAValue_data();
+    void ticksNoBoxWithoutAValue();
+    void writesAMixedFlagThatWasSet();
     void refusesTogether();
     void doesNothingWhenCancelled();
     void isOfferedForSeveralVariables();
@@ -135,6 +140,72 @@ void TestEditTogether::emptiesTextsButNoNumbers()
     m_dialog->accept();
     QCOMPARE(m_bench->variable(u"AGE"_s)->getDocumentation(), QString());
     QCOMPARE(m_bench->variable(u"AGE"_s)->getSize(), 2);
+}
+
+void TestEditTogether::leavesMixedValuesThatAreEmptyAgain()
+{
+    m_bench->variable(u"AGE"_s)->setVarType(u"REAL"_s);
+    m_bench->variable(u"AGE"_s)->setDocumentation(u"Asked twice"_s);
+    m_dialog = std::make_unique<EditTogetherDialog>(m_bench->workspace());
+    m_dialog->show();
+    for (const char *name : {"Group", "Type", "Documentation"}) {
+        QWidget *control = m_dialog->control(QLatin1StringView(name));
+        const QCheckBox *box = m_dialog->box(QLatin1StringView(name));
+        QTest::keyClicks(control, u"x"_s);
+        QVERIFY2(box->isChecked(), name);
+        QTest::keyClick(control, Qt::Key_Backspace);
+        QVERIFY2(!box->isChecked(), name);
+    }
+    QCOMPARE(control<QLineEdit>("Group")->placeholderText(), u"several values"_s);
+    QTest::keyClicks(control<QLineEdit>("Record"), u"PERS"_s);
+    m_dialog->accept();
+    QCOMPARE(m_bench->variable(u"SEX"_s)->getGroup(), u"BASIC"_s);
+    QCOMPARE(m_bench->variable(u"SEX"_s)->getVarType(), u"INTEGER"_s);
+    QCOMPARE(m_bench->variable(u"SEX"_s)->getDocumentation(), u"Asked"_s);
+}
+
+void TestEditTogether::saysThatMixedTextsWillBeEmptied()
+{
+    QTest::keyClick(m_dialog->box("Group"_L1), Qt::Key_Space);
+    QCOMPARE(control<QLineEdit>("Group")->placeholderText(), u"will be emptied"_s);
+    QTest::keyClick(m_dialog->box("Group"_L1), Qt::Key_Space);
+    QCOMPARE(control<QLineEdit>("Group")->placeholderText(), u"several values"_s);
+    QTest::keyClick(m_dialog->box("Group"_L1), Qt::Key_Space);
+    m_dialog->accept();
+    for (const TDcVariable *variable : m_bench->selection.variables())
+        QCOMPARE(variable->getGroup(), QString());
+}
+
+void TestEditTogether::ticksNoBoxWithoutAValue_data()
+{
+    QTest::addColumn<QByteArray>("property");
+    QTest::addRow("mixed flag") << QByteArray("Local");
+    QTest::addRow("mixed number") << QByteArray("Decimals");
+}
+
+void TestEditTogether::ticksNoBoxWithoutAValue()
+{
+    QFETCH(const QByteArray, property);
+    const QLatin1StringView name(property);
+    QTest::keyClick(m_dialog->box(name), Qt::Key_Space);
+    QVERIFY(!m_dialog->box(name)->isChecked());
+    QCOMPARE(m_dialog->focusWidget(), m_dialog->control(name));
+    QVERIFY(!m_dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled());
+    m_dialog->accept();
+    QVERIFY(m_bench->variable(u"SEX"_s)->getLocal());
+    QVERIFY(!m_bench->variable(u"AGE"_s)->getLocal());
+    QCOMPARE(m_bench->variable(u"SEX"_s)->getDecimals(), 1);
+}
+
+void TestEditTogether::writesAMixedFlagThatWasSet()
+{
+    auto *local = control<QCheckBox>("Local");
+    QTest::keyClick(local, Qt::Key_Space);
+    QTest::keyClick(local, Qt::Key_Space);
+    QCOMPARE(local->checkState(), Qt::Unchecked); // Never partial again.
+    m_dialog->accept();
+    for (const TDcVariable *variable : m_bench->selection.variables())
+        QVERIFY(!variable->getLocal());
 }
 
 void TestEditTogether::refusesTogether()

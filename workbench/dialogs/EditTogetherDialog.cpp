@@ -22,6 +22,22 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace
+{
+/// Lets \a field say what it means that it is empty.
+template <typename Field>
+void explainEmptiness(Field *field, const QCheckBox *box, bool mixed)
+{
+    const auto explain = [field, box, mixed] {
+        field->setPlaceholderText(box->isChecked() ? EditTogetherDialog::tr("will be emptied")
+                                      : mixed      ? EditTogetherDialog::tr("several values")
+                                                   : QString());
+    };
+    QObject::connect(box, &QCheckBox::toggled, field, explain);
+    explain();
+}
+} // namespace
+
 void EditTogetherDialog::addTo(const Workspace &workspace)
 {
     QAction *action = (*workspace.actions)[ActionId::VariableEditTogether];
@@ -76,7 +92,14 @@ void EditTogetherDialog::addRow(QFormLayout *form, const VariableProperty &prope
     box->setAccessibleName(tr("Write %1").arg(property.title()));
     Row row = createRow(property, CommonEdits::shared(m_variables, property), box);
     row.control->setAccessibleName(property.title());
-    connect(box, &QCheckBox::toggled, this, &EditTogetherDialog::updateButtons);
+    connect(box, &QCheckBox::toggled, this, [this, box, control = row.control, text = row.text](bool on) {
+        if (on && !text()) {
+            // There is nothing to write yet.
+            box->setChecked(false);
+            control->setFocus();
+        }
+        updateButtons();
+    });
     form->addRow(box, row.control);
     m_rows.push_back(std::move(row));
 }
@@ -85,26 +108,32 @@ EditTogetherDialog::Row EditTogetherDialog::createRow(const VariableProperty &pr
                                                       const QVariant &shared, QCheckBox *box)
 {
     using Kind = VariableProperty::Kind;
-    const QString several = tr("several values");
     const bool mixed = !shared.isValid();
+    // Mixed values that are typed over and deleted again stay as they are.
+    const auto touch = [box, mixed](const QString &text) { box->setChecked(!mixed || !text.isEmpty()); };
     switch (property.kind) {
     case Kind::Flag: {
         auto *control = new QCheckBox(tr("Yes"), this);
         control->setTristate(mixed);
         control->setCheckState(mixed ? Qt::PartiallyChecked : shared.toBool() ? Qt::Checked : Qt::Unchecked);
-        control->setToolTip(mixed ? several : QString());
+        control->setToolTip(mixed ? tr("several values") : QString());
         connect(control, &QCheckBox::clicked, box, [control, box] {
             control->setTristate(false);
             box->setChecked(true);
         });
-        return {&property, box, control, [control] { return QString::number(int(control->isChecked())); }};
+        return {&property, box, control, [control] {
+                    return control->checkState() == Qt::PartiallyChecked
+                        ? std::nullopt
+                        : std::optional(QString::number(int(control->isChecked())));
+                }};
     }
     case Kind::LongText: {
         auto *control = new QPlainTextEdit(shared.toString(), this);
         control->setTabChangesFocus(true);
-        control->setPlaceholderText(mixed ? several : QString());
         control->setMaximumHeight(control->fontMetrics().lineSpacing() * 4 + 12);
-        connect(control, &QPlainTextEdit::textChanged, box, [box] { box->setChecked(true); });
+        explainEmptiness(control, box, mixed);
+        connect(control, &QPlainTextEdit::textChanged, box,
+                [control, touch] { touch(control->toPlainText()); });
         return {&property, box, control, [control] { return control->toPlainText(); }};
     }
     case Kind::TypeWord: {
@@ -112,23 +141,27 @@ EditTogetherDialog::Row EditTogetherDialog::createRow(const VariableProperty &pr
         control->setEditable(true);
         control->addItems(VariableProperties::typeWords());
         control->setEditText(shared.toString());
-        control->lineEdit()->setPlaceholderText(mixed ? several : QString());
-        connect(control, &QComboBox::editTextChanged, box, [box] { box->setChecked(true); });
+        explainEmptiness(control->lineEdit(), box, mixed);
+        connect(control, &QComboBox::editTextChanged, box, touch);
         return {&property, box, control, [control] { return control->currentText(); }};
     }
+    case Kind::Number: {
+        auto *control = new QLineEdit(shared.toString(), this);
+        control->setPlaceholderText(mixed ? tr("several values") : QString());
+        control->setValidator(new QIntValidator(control));
+        // A number that is deleted is none to write.
+        connect(control, &QLineEdit::textEdited, box,
+                [box](const QString &text) { box->setChecked(!text.isEmpty()); });
+        return {&property, box, control, [control] {
+                    return control->text().isEmpty() ? std::nullopt : std::optional(control->text());
+                }};
+    }
     case Kind::Text:
-    case Kind::Number:
         break;
     }
     auto *control = new QLineEdit(shared.toString(), this);
-    control->setPlaceholderText(mixed ? several : QString());
-    if (property.kind == Kind::Number)
-        control->setValidator(new QIntValidator(control));
-    // A number that is deleted is none to write.
-    connect(control, &QLineEdit::textEdited, box,
-            [box, number = property.kind == Kind::Number](const QString &text) {
-                box->setChecked(!number || !text.isEmpty());
-            });
+    explainEmptiness(control, box, mixed);
+    connect(control, &QLineEdit::textEdited, box, touch);
     return {&property, box, control, [control] { return control->text(); }};
 }
 
@@ -159,7 +192,7 @@ void EditTogetherDialog::accept()
     QList<CommonEdits::Change> changes;
     for (const Row &row : m_rows) {
         if (row.box->isChecked())
-            changes.append({row.property, row.text()});
+            changes.append({row.property, row.text().value_or(QString())});
     }
     Document *document = m_workspace.document;
     TDcEntity *entity = m_workspace.selection->entity();

@@ -6,6 +6,7 @@
 #include <QDialog>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QCheckBox;
@@ -13,7 +14,8 @@ class QFormLayout;
 class QPushButton;
 
 /// Edits properties of all selected variables at once. Each property has a box that says whether it is
-/// written; it is ticked when the person touches the property. What differs is shown as several values.
+/// written; it is ticked when the person touches the property. What differs is shown as several values, which
+/// cannot be written.
 class EditTogetherDialog : public QDialog
 {
     Q_OBJECT
@@ -37,7 +39,8 @@ private:
         const VariableProperty *property;
         QCheckBox *box;
         QWidget *control;
-        std::function<QString()> text; ///< As VariableWriter::writeText() takes it.
+        /// What to write, as VariableWriter::writeText() takes it; nothing for several values.
+        std::function<std::optional<QString>()> text;
     };
 
     void addRow(QFormLayout *form, const VariableProperty &property);
