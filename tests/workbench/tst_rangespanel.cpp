@@ -8,6 +8,7 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTest>
 
@@ -26,6 +27,8 @@ private Q_SLOTS:
     void makesALayoutForTheFirstRange();
     void editsWithTheSpinBoxOfTheType_data();
     void editsWithTheSpinBoxOfTheType();
+    void showsEveryDigit_data();
+    void showsEveryDigit();
     void followsAChangeOfTheType();
     void eachVariableHasItsOwnEditor();
     void removesSeveral();
@@ -159,6 +162,31 @@ void TestRangesPanel::editsWithTheSpinBoxOfTheType()
     m_bench->document.undoStack()->undo();
     QCOMPARE(held(), QStringList({u"0..1"_s}));
     QCOMPARE(shown(), QStringList({u"0..1"_s}));
+}
+
+void TestRangesPanel::showsEveryDigit_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<double>("bound");
+    QTest::addColumn<QString>("text");
+    QTest::addRow("seven digits") << Constants::typeReal << 9999999.0 << u"9999999"_s;
+    QTest::addRow("whole number") << Constants::typeInteger << 9999999.0 << u"9999999"_s;
+    QTest::addRow("trillions") << Constants::typeReal << 1e12 << u"1000000000000"_s;
+    QTest::addRow("decimals") << Constants::typeReal << 1234567.25 << u"1234567.25"_s;
+    QTest::addRow("small") << Constants::typeReal << 0.00001 << u"0.00001"_s;
+    QTest::addRow("negative") << Constants::typeReal << -98.6 << u"-98.6"_s;
+}
+
+void TestRangesPanel::showsEveryDigit()
+{
+    QFETCH(const QString, type);
+    QFETCH(const double, bound);
+    m_bench->variable(u"AGE"_s)->setVarType(type);
+    fill({bound});
+    const auto *delegate = qobject_cast<QStyledItemDelegate *>(m_panel->view()->itemDelegate());
+    QVERIFY(delegate);
+    const QVariant value = m_panel->view()->model()->index(0, 1).data();
+    QTEST(delegate->displayText(value, QLocale(QLocale::English)), "text");
 }
 
 void TestRangesPanel::followsAChangeOfTheType()

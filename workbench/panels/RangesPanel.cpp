@@ -7,6 +7,7 @@
 #include "models/VarRangeProxyModel.h"
 #include "workbench/operations/ListEdits.h"
 
+#include <QLocale>
 #include <QTableView>
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,6 +19,20 @@ QList<Range *> *rangesOf(TDcVariable *variable)
     const MetadataVariables *metadata = variable->getMetadataVariables();
     return metadata ? metadata->getRange() : nullptr;
 }
+
+/// Shows bounds as the spin boxes edit them. By itself a view rounds to six digits.
+class BoundDelegate : public VarRangeDelegate
+{
+public:
+    using VarRangeDelegate::VarRangeDelegate;
+
+    [[nodiscard]] QString displayText(const QVariant &value, const QLocale &locale) const override
+    {
+        QLocale plain = locale;
+        plain.setNumberOptions(QLocale::OmitGroupSeparator);
+        return plain.toString(value.toDouble(), 'f', QLocale::FloatingPointShortest);
+    }
+};
 } // namespace
 
 RangesPanel::RangesPanel(const Workspace &workspace, QWidget *parent)
@@ -32,7 +47,7 @@ QAbstractItemModel *RangesPanel::createModel(TDcVariable *variable)
 {
     // The delegate knows its variable, so each variable has its own.
     delete m_view->itemDelegate();
-    m_view->setItemDelegate(new VarRangeDelegate(variable, m_view));
+    m_view->setItemDelegate(new BoundDelegate(variable, m_view));
     return new VarRangeModel(this, variable);
 }
 
