@@ -6,6 +6,7 @@
 #include "workbench/dialogs/CopyValuesDialog.h"
 #include "workbench/operations/ValueCopies.h"
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -30,8 +31,11 @@ private Q_SLOTS:
     void tellsWhatWillChange();
     void makesNoLayoutForNothing();
     void ticksTheSelectedVariables();
+    void startsAtTheFirstTickedVariable();
+    void copiesNoKindThatTheSourceLacks();
     void ticksWhatTheFilterShows();
     void copiesInOneStep();
+    void namesTheOnlyTarget();
 
 private:
     [[nodiscard]] static QString values(const TDcVariable &variable);
@@ -163,6 +167,40 @@ void TestCopyValues::ticksTheSelectedVariables()
     QCOMPARE(dialog.findChild<QLabel *>(u"copyValuesPreview"_s)->text(), u"One variable will change."_s);
 }
 
+void TestCopyValues::startsAtTheFirstTickedVariable()
+{
+    const QList<TDcVariable *> two{&variable(u"SEX"_s), &variable(u"WAGE"_s)};
+    m_bench->selection.setVariables(two, two.first());
+    const CopyValuesDialog dialog(m_bench->workspace());
+    QCOMPARE(dialog.findChild<QTableView *>()->currentIndex().data().toString(), u"WAGE"_s);
+    m_bench->selection.select(u"PERSON/SEX"_s);
+    const CopyValuesDialog untouched(m_bench->workspace());
+    QCOMPARE(untouched.findChild<QTableView *>()->currentIndex().data().toString(), u"AGE"_s);
+}
+
+void TestCopyValues::copiesNoKindThatTheSourceLacks()
+{
+    // Replaced by nothing, the labels and ranges of the others would be erased.
+    m_bench->selection.select(u"PERSON/WAGE"_s);
+    CopyValuesDialog dialog(m_bench->workspace());
+    const QList<QCheckBox *> kinds = dialog.findChildren<QCheckBox *>();
+    QCOMPARE(kinds.size(), 3);
+    for (const QCheckBox *kind : {kinds.at(0), kinds.at(1)}) {
+        QVERIFY(!kind->isChecked());
+        QVERIFY(!kind->isEnabled());
+        QCOMPARE(kind->toolTip(), u"WAGE has none."_s);
+    }
+    QVERIFY(kinds.at(2)->isEnabled());
+    button(dialog, u"&Tick Shown"_s)->click();
+    button(dialog, u"&Copy"_s)->click();
+    QCOMPARE(values(variable(u"AGE"_s)), u"1=One 0..99 0"_s);
+
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    const CopyValuesDialog full(m_bench->workspace());
+    QVERIFY(full.findChildren<QCheckBox *>().at(0)->isChecked());
+    QVERIFY(full.findChildren<QCheckBox *>().at(1)->isChecked());
+}
+
 void TestCopyValues::ticksWhatTheFilterShows()
 {
     const CopyValuesDialog dialog(m_bench->workspace());
@@ -193,6 +231,14 @@ void TestCopyValues::copiesInOneStep()
     QCOMPARE(stack->undoText(), u"copying values of SEX to 2 variables"_s);
     stack->undo();
     QVERIFY(DictionaryEquality::equal(*m_bench->document.root(), *before));
+}
+
+void TestCopyValues::namesTheOnlyTarget()
+{
+    CopyValuesDialog dialog(m_bench->workspace());
+    dialog.findChild<QStandardItemModel *>()->item(1)->setCheckState(Qt::Checked);
+    button(dialog, u"&Copy"_s)->click();
+    QCOMPARE(m_bench->undoText(), u"copying values of SEX to WAGE"_s);
 }
 
 QTEST_MAIN(TestCopyValues)

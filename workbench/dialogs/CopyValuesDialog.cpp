@@ -78,8 +78,14 @@ QWidget *CopyValuesDialog::createChoices()
     m_labels = new QCheckBox(tr("Value &labels"), choices);
     m_ranges = new QCheckBox(tr("&Ranges"), choices);
     m_missing = new QCheckBox(tr("&Missing-value and not-applicable codes"), choices);
-    m_labels->setChecked(true);
-    m_ranges->setChecked(true);
+    // What the source lacks cannot be copied; replaced by it, the others' would be erased.
+    const ValueCopies::What there = ValueCopies::contents(*m_source);
+    for (const auto &[box, has] :
+         {std::pair(m_labels, there.valueLabels), std::pair(m_ranges, there.ranges)}) {
+        box->setChecked(has);
+        box->setEnabled(has);
+        box->setToolTip(has ? QString() : tr("%1 has none.").arg(m_source->getName()));
+    }
     auto *what = new QHBoxLayout;
     for (QCheckBox *box : {m_labels, m_ranges, m_missing}) {
         connect(box, &QCheckBox::toggled, this, &CopyValuesDialog::refresh);
@@ -129,7 +135,7 @@ void CopyValuesDialog::addList()
 void CopyValuesDialog::fill()
 {
     const QList<TDcVariable *> selected = m_workspace.selection->variables();
-    const QSet<TDcVariable *> ticked(selected.cbegin(), selected.cend());
+    const QSet<const TDcVariable *> ticked(selected.cbegin(), selected.cend());
     QList<TDcEntity *> entities;
     preOrder(m_workspace.document->root(), [&entities](TDcEntity *entity) { entities.append(entity); });
     for (const TDcEntity *entity : std::as_const(entities)) {
@@ -147,8 +153,12 @@ void CopyValuesDialog::fill()
     m_model->setHorizontalHeaderLabels({tr("Variable"), tr("Label"), tr("Entity")});
     m_view->setColumnWidth(0, 180);
     m_view->setColumnWidth(1, 280);
-    if (m_proxy->rowCount() > 0)
-        m_view->setCurrentIndex(m_proxy->index(0, 0));
+    // What is ticked to begin with is in sight.
+    const auto first =
+        std::find_if(m_variables.cbegin(), m_variables.cend(),
+                     [&ticked](const TDcVariable *variable) { return ticked.contains(variable); });
+    const int row = first == m_variables.cend() ? 0 : int(first - m_variables.cbegin());
+    m_view->setCurrentIndex(m_proxy->index(row, 0));
 }
 
 void CopyValuesDialog::tick(bool on)
@@ -191,7 +201,10 @@ void CopyValuesDialog::accept()
 {
     const QList<TDcVariable *> chosen = targets();
     ValueCopies::apply(*m_source, chosen, what());
-    m_workspace.document->commit(tr("copying values of %1 to %L2 variables")
-                                     .arg(m_source->getName(), QLocale().toString(chosen.size())));
+    m_workspace.document->commit(chosen.size() == 1
+                                     ? tr("copying values of %1 to %2", "two variables")
+                                           .arg(m_source->getName(), chosen.constFirst()->getName())
+                                     : tr("copying values of %1 to %L2 variables")
+                                           .arg(m_source->getName(), QLocale().toString(chosen.size())));
     QDialog::accept();
 }

@@ -73,6 +73,13 @@ void copyTo(TDcVariable &target, const TDcVariable &source, const ValueCopies::W
 }
 } // namespace
 
+ValueCopies::What ValueCopies::contents(const TDcVariable &source)
+{
+    return {.valueLabels = !source.getValueLabelElementList()->isEmpty(),
+            .ranges = !rangesOf(source).isEmpty(),
+            .missing = true};
+}
+
 void ValueCopies::apply(const TDcVariable &source, const QList<TDcVariable *> &targets, const What &what)
 {
     for (TDcVariable *target : targets) {

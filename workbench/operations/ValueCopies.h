@@ -21,6 +21,8 @@ public:
         bool replace = true;
     };
 
+    /// What there is to copy in \a source; the codes of missing values always are.
+    [[nodiscard]] static What contents(const TDcVariable &source);
     /// Changes \a targets; \a source among them is left alone.
     static void apply(const TDcVariable &source, const QList<TDcVariable *> &targets, const What &what);
     /// What apply() would do, in sentences.
