@@ -1,13 +1,17 @@
 #include "documents/DictionaryCopy.h"
 #include "documents/DictionaryEquality.h"
 #include "model/ValueLabelElement.h"
+#include "tests/support/MessageBoxAnswer.h"
 #include "tests/workbench/Bench.h"
 #include "workbench/dialogs/LabelSetsDialog.h"
 #include "workbench/operations/LabelSets.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 #include <QUndoStack>
@@ -30,6 +34,14 @@ private Q_SLOTS:
     void editsOnceInOneStep();
     void addsMovesAndRemoves();
     void takesEditsBack();
+    void entersWhatIsBeingTyped_data();
+    void entersWhatIsBeingTyped();
+    void staysOnTheSet();
+    void asksBeforeEditsAreLost_data();
+    void asksBeforeEditsAreLost();
+    void asksNothingWithoutEdits();
+    void saysWhyTheSetsAreOff();
+    void listsTheMembersOfALargeSet();
     void saysWhenThereIsNone();
 
 private:
@@ -152,7 +164,8 @@ void TestLabelSets::editsOnceInOneStep()
     setLabels(u"AGE"_s, u"1=Yes 2=No"_s);
     const auto before = DictionaryCopy::copy(*m_bench->document.root());
     const LabelSetsDialog dialog(m_bench->workspace());
-    QCOMPARE(dialog.findChild<QLabel *>(u"labelSetMembers"_s)->text(), u"PERSON/SEX, PERSON/AGE"_s);
+    QCOMPARE(dialog.findChild<QPlainTextEdit *>(u"labelSetMembers"_s)->toPlainText(),
+             u"PERSON/SEX\nPERSON/AGE"_s);
     QPushButton *apply = button(dialog, u"Change in 2 Variables"_s);
     QVERIFY(!apply->isEnabled());
     QAbstractItemModel *model = dialog.findChild<QTableView *>()->model();
@@ -204,6 +217,167 @@ void TestLabelSets::takesEditsBack()
     QVERIFY(!takeBack->isEnabled());
     QVERIFY(dialog.findChild<QListWidget *>()->isEnabled());
     QCOMPARE(m_bench->document.undoStack()->count(), 0);
+}
+
+void TestLabelSets::entersWhatIsBeingTyped_data()
+{
+    QTest::addColumn<QString>("pressed");
+    QTest::addColumn<QString>("labels");
+    QTest::addRow("change") << u"Change in 2 Variables"_s << u"1=One 2=Two"_s;
+    QTest::addRow("add") << u"Add"_s << u"1=One 2=Two 3="_s;
+    QTest::addRow("remove") << u"Remove"_s << u"1=One"_s;
+    QTest::addRow("move") << u"Move Up"_s << u"2=Two 1=One"_s;
+    QTest::addRow("reset") << u"Reset"_s << u"1=A 2=B"_s;
+}
+
+/// An editor is open while a button is pressed by its mnemonic, which leaves the focus where it is.
+void TestLabelSets::entersWhatIsBeingTyped()
+{
+    QFETCH(const QString, pressed);
+    QFETCH(const QString, labels);
+    setLabels(u"SEX"_s, u"1=A 2=B"_s);
+    setLabels(u"AGE"_s, u"1=A 2=B"_s);
+    LabelSetsDialog dialog(m_bench->workspace());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *view = dialog.findChild<QTableView *>();
+    QVERIFY(view->model()->setData(view->model()->index(0, 1), u"One"_s));
+    view->setCurrentIndex(view->model()->index(1, 1));
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_F2);
+    auto *editor = view->findChild<QLineEdit *>();
+    QVERIFY(editor);
+    editor->selectAll();
+    QTest::keyClicks(editor, u"Two"_s);
+    button(dialog, pressed)->click();
+    QStringList shown;
+    for (int row = 0; row < view->model()->rowCount(); ++row)
+        shown.append(view->model()->index(row, 0).data().toString() + u'='
+                     + view->model()->index(row, 1).data().toString());
+    QCOMPARE(shown.join(u' '), labels);
+    if (button(dialog, u"Change in 2 Variables"_s)->isEnabled())
+        button(dialog, u"Change in 2 Variables"_s)->click();
+    QCOMPARE(this->labels(u"AGE"_s), labels);
+}
+
+void TestLabelSets::staysOnTheSet()
+{
+    TDcEntity *person = m_bench->entity(u"PERSON"_s);
+    setLabels(u"SEX"_s, u"1=A"_s);
+    setLabels(u"AGE"_s, u"1=B 2=C"_s);
+    setLabels(u"WAGE"_s, u"1=B 2=C"_s);
+    for (int i = 0; i < 2; ++i)
+        person->addVariables(DictionaryCopy::copy(*m_bench->variable(u"SEX"_s)).release());
+    LabelSetsDialog dialog(m_bench->workspace());
+    auto *list = dialog.findChild<QListWidget *>();
+    list->setCurrentRow(1);
+    const auto write = [&dialog](int row, const QString &label) {
+        QAbstractItemModel *model = dialog.findChild<QTableView *>()->model();
+        return model->setData(model->index(row, 1), label);
+    };
+    QVERIFY(write(1, u"D"_s));
+    button(dialog, u"Change in 2 Variables"_s)->click();
+    QCOMPARE(list->currentItem()->text(), u"2 variables: 1 B, 2 D"_s);
+    // Where it becomes one with another, that one is shown.
+    dialog.findChild<QTableView *>()->selectRow(1);
+    button(dialog, u"Remove"_s)->click();
+    QVERIFY(write(0, u"A"_s));
+    button(dialog, u"Change in 2 Variables"_s)->click();
+    QCOMPARE(list->count(), 1);
+    QCOMPARE(list->currentItem()->text(), u"5 variables: 1 A"_s);
+    // Without labels it is none.
+    dialog.findChild<QTableView *>()->selectRow(0);
+    button(dialog, u"Remove"_s)->click();
+    button(dialog, u"Change in 5 Variables"_s)->click();
+    QCOMPARE(list->count(), 0);
+}
+
+void TestLabelSets::asksBeforeEditsAreLost_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<bool>("closed");
+    QTest::addColumn<QString>("labels");
+    QTest::addRow("apply") << u"Apply"_s << true << u"1=Yes 2=Never"_s;
+    QTest::addRow("discard") << u"Discard"_s << true << u"1=Yes 2=No"_s;
+    QTest::addRow("cancel") << u"Cancel"_s << false << u"1=Yes 2=No"_s;
+    QTest::addRow("escape") << QString() << false << u"1=Yes 2=No"_s;
+}
+
+void TestLabelSets::asksBeforeEditsAreLost()
+{
+    QFETCH(const QString, answer);
+    QFETCH(const bool, closed);
+    setLabels(u"SEX"_s, u"1=Yes 2=No"_s);
+    setLabels(u"AGE"_s, u"1=Yes 2=No"_s);
+    LabelSetsDialog dialog(m_bench->workspace());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *view = dialog.findChild<QTableView *>();
+    view->setCurrentIndex(view->model()->index(1, 1));
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_F2);
+    view->findChild<QLineEdit *>()->setText(u"Never"_s);
+    const MessageBoxAnswer boxes({answer});
+    dialog.close(); // While the label is still being typed.
+    QCOMPARE(boxes.shown().size(), 1);
+    QCOMPARE(boxes.shown().first().buttons, QStringList({u"Cancel"_s, u"Discard"_s, u"Apply"_s}));
+    QCOMPARE(dialog.isVisible(), !closed);
+    QTEST(labels(u"SEX"_s), "labels");
+    if (!closed)
+        QCOMPARE(view->model()->index(1, 1).data().toString(), u"Never"_s);
+}
+
+void TestLabelSets::asksNothingWithoutEdits()
+{
+    setLabels(u"SEX"_s, u"1=Yes 2=No"_s);
+    setLabels(u"AGE"_s, u"1=Yes 2=No"_s);
+    const MessageBoxAnswer boxes;
+    for (const bool edited : {false, true}) {
+        LabelSetsDialog dialog(m_bench->workspace());
+        dialog.show();
+        const auto *view = dialog.findChild<QTableView *>();
+        QVERIFY(!edited || view->model()->setData(view->model()->index(0, 1), u"Yes!"_s));
+        if (edited)
+            m_bench->document.edit(u"removing"_s, [] {}); // The variables may be gone.
+        else
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+    }
+    QCOMPARE(boxes.shown().size(), 0);
+}
+
+void TestLabelSets::saysWhyTheSetsAreOff()
+{
+    setLabels(u"SEX"_s, u"1=Yes 2=No"_s);
+    setLabels(u"AGE"_s, u"1=Yes 2=No"_s);
+    const LabelSetsDialog dialog(m_bench->workspace());
+    const auto *why = dialog.findChild<QLabel *>(u"labelSetPending"_s);
+    QVERIFY(why->isHidden());
+    const auto *view = dialog.findChild<QTableView *>();
+    QVERIFY(view->model()->setData(view->model()->index(0, 1), u"Yes!"_s));
+    QVERIFY(!why->isHidden());
+    button(dialog, u"Reset"_s)->click();
+    QVERIFY(why->isHidden());
+}
+
+void TestLabelSets::listsTheMembersOfALargeSet()
+{
+    // Each on a line of its own: a single paragraph of them all is laid out at once, and freezes the window.
+    setLabels(u"SEX"_s, u"1=Yes 2=No"_s);
+    TDcEntity *person = m_bench->entity(u"PERSON"_s);
+    for (int i = 0; i < 4999; ++i)
+        person->addVariables(DictionaryCopy::copy(*m_bench->variable(u"SEX"_s)).release());
+    LabelSetsDialog dialog(m_bench->workspace());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *members = dialog.findChild<QPlainTextEdit *>(u"labelSetMembers"_s);
+    QCOMPARE(members->blockCount(), 5000);
+    QVERIFY(members->isReadOnly());
+    members->setFocus();
+    QTest::keyClick(members, Qt::Key_PageDown);
+    QVERIFY(members->verticalScrollBar()->value() > 0);
+    QTest::keyClick(members, Qt::Key_Tab);
+    QVERIFY(!members->hasFocus());
 }
 
 void TestLabelSets::saysWhenThereIsNone()

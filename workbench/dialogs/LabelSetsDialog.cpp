@@ -15,6 +15,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
@@ -55,11 +57,11 @@ LabelSetsDialog::LabelSetsDialog(const Workspace &workspace)
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_apply, &QPushButton::clicked, this, &LabelSetsDialog::apply);
-    connect(m_takeBack, &QPushButton::clicked, this, [this] { showSet(m_set); });
+    connect(m_takeBack, &QPushButton::clicked, this, &LabelSetsDialog::takeBack);
     connect(m_list, &QListWidget::currentRowChanged, this, &LabelSetsDialog::showSet);
-    // The variables may go with the change.
-    connect(workspace.document, &Document::structureAboutToChange, this, &QDialog::reject);
-    list();
+    // The variables may go with the change: there is nothing left to ask.
+    connect(workspace.document, &Document::structureAboutToChange, this, [this] { done(Rejected); });
+    list(0);
 }
 
 LabelSetsDialog::~LabelSetsDialog()
@@ -77,13 +79,18 @@ QWidget *LabelSetsDialog::createSets()
     auto *list = new EmptyText<QListWidget>(side);
     list->setEmptyText(tr("No two variables have the same value labels."));
     m_list = list;
-    m_list->setAccessibleName(tr("Identical label sets"));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setTextElideMode(Qt::ElideRight);
+    Widgets::setUpList(m_list, tr("Identical label sets"));
     auto *title = new QLabel(tr("&Sets that variables share"), side);
     title->setBuddy(m_list);
+    m_pending = new QLabel(tr("Change or reset the labels before you go to another set."), side);
+    m_pending->setObjectName(u"labelSetPending"_s);
+    m_pending->setWordWrap(true);
+    m_pending->hide();
     column->addWidget(title);
     column->addWidget(m_list);
+    column->addWidget(m_pending);
     return side;
 }
 
@@ -108,18 +115,17 @@ QWidget *LabelSetsDialog::createLabels()
     m_down = addButton(bar, tr("Move &Down"), &LabelSetsDialog::moveDown);
     bar->addStretch(1);
     column->addLayout(bar);
-    m_members = new QLabel(side);
+    m_members = new QPlainTextEdit(side);
     m_members->setObjectName(u"labelSetMembers"_s);
     m_members->setAccessibleName(tr("Variables that have the set"));
-    m_members->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    m_members->setTextFormat(Qt::PlainText);
-    m_members->setWordWrap(true);
-    auto *membersTitle = new QLabel(tr("Variables that have the set"), side);
+    m_members->setReadOnly(true);
+    m_members->setTabChangesFocus(true);
+    m_members->setFixedHeight(m_members->fontMetrics().lineSpacing() * 5 + 12);
+    auto *membersTitle = new QLabel(tr("&Variables that have the set"), side);
     membersTitle->setContentsMargins(0, 8, 0, 0);
+    membersTitle->setBuddy(m_members);
     column->addWidget(membersTitle);
-    QWidget *members = Widgets::scrolled(m_members, side);
-    members->setFixedHeight(m_members->fontMetrics().lineSpacing() * 5);
-    column->addWidget(members);
+    column->addWidget(m_members);
     return side;
 }
 
@@ -132,14 +138,19 @@ QPushButton *LabelSetsDialog::addButton(QLayout *layout, const QString &text, vo
     return button;
 }
 
-void LabelSetsDialog::list()
+void LabelSetsDialog::list(int row, const TDcVariable *member)
 {
     m_sets = LabelSets::shared(m_workspace.document->root());
     m_list->clear();
     for (const LabelSets::Set &set : std::as_const(m_sets))
         m_list->addItem(
             tr("%L1 variables: %2", "how many have these labels").arg(set.members.size()).arg(set.text()));
-    m_list->setCurrentRow(m_sets.isEmpty() ? -1 : 0);
+    const auto found = std::find_if(m_sets.cbegin(), m_sets.cend(), [member](const LabelSets::Set &set) {
+        return std::any_of(set.members.cbegin(), set.members.cend(),
+                           [member](const LabelSets::Member &each) { return each.variable == member; });
+    });
+    m_list->setCurrentRow(found != m_sets.cend() ? int(found - m_sets.cbegin())
+                                                 : std::min(row, int(m_sets.size()) - 1));
     if (m_sets.isEmpty())
         showSet(-1);
 }
@@ -164,7 +175,7 @@ void LabelSetsDialog::showSet(int row)
     m_view->setModel(nullptr);
     delete std::exchange(m_model, nullptr);
     m_draft.setValueLabelElementList(elements);
-    m_members->setText(members.join(u", "_s));
+    m_members->setPlainText(members.join(u'\n'));
     showLabels(0);
 }
 
@@ -225,16 +236,19 @@ void LabelSetsDialog::updateButtons()
     m_remove->setEnabled(!rows.isEmpty());
     m_up->setEnabled(ListEdits::canMove(elements, rows, true));
     m_down->setEnabled(ListEdits::canMove(elements, rows, false));
-    m_apply->setEnabled(isChanged());
-    m_takeBack->setEnabled(isChanged());
+    const bool changed = isChanged();
+    m_apply->setEnabled(changed);
+    m_takeBack->setEnabled(changed);
     // What is edited must be written or taken back before another set is shown.
-    m_list->setEnabled(!isChanged());
+    m_list->setEnabled(!changed);
+    m_pending->setVisible(changed);
     m_apply->setText(m_set < 0 ? tr("&Change All")
                                : tr("&Change in %L1 Variables").arg(m_sets.at(m_set).members.size()));
 }
 
 void LabelSetsDialog::addLabel()
 {
+    Widgets::finishEditing(this);
     auto *element = new ValueLabelElement;
     element->setValue(NewCodes::next(m_draft));
     m_draft.addValueLabelElement(element);
@@ -245,6 +259,7 @@ void LabelSetsDialog::addLabel()
 
 void LabelSetsDialog::removeLabels()
 {
+    Widgets::finishEditing(this);
     const int row = m_view->currentIndex().row();
     const QList<ValueLabelElement *> gone = selected();
     m_view->setModel(nullptr);
@@ -257,15 +272,43 @@ void LabelSetsDialog::removeLabels()
 
 void LabelSetsDialog::move(bool up)
 {
+    Widgets::finishEditing(this);
     const QList<ValueLabelElement *> rows = selected();
     ListEdits::move(*m_draft.getValueLabelElementList(), rows, up);
     showLabels(int(m_draft.getValueLabelElementList()->indexOf(rows.constFirst())));
 }
 
+void LabelSetsDialog::takeBack()
+{
+    Widgets::finishEditing(this);
+    showSet(m_set);
+}
+
 void LabelSetsDialog::apply()
 {
-    const LabelSets::Set &set = m_sets.at(m_set);
+    Widgets::finishEditing(this);
+    const LabelSets::Set set = m_sets.at(m_set);
     LabelSets::change(set, edited());
     m_workspace.document->commit(tr("value labels of %L1 variables").arg(set.members.size()));
-    list();
+    // It may stand elsewhere now, be one with another or, without labels, be gone.
+    list(m_set, set.members.constFirst().variable);
+}
+
+void LabelSetsDialog::reject()
+{
+    Widgets::finishEditing(this);
+    if (isChanged()) {
+        QMessageBox box(QMessageBox::Warning, windowTitle(),
+                        tr("Change the labels in all variables that have the set?"),
+                        QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, this);
+        box.setTextFormat(Qt::PlainText);
+        box.setInformativeText(tr("Otherwise what you have edited is lost."));
+        box.setDefaultButton(QMessageBox::Apply);
+        const int answer = box.exec();
+        if (answer == QMessageBox::Apply)
+            apply();
+        else if (answer != QMessageBox::Discard)
+            return;
+    }
+    QDialog::reject();
 }

@@ -11,6 +11,7 @@
 class QAbstractItemModel;
 class QLabel;
 class QListWidget;
+class QPlainTextEdit;
 class QPushButton;
 class QTableView;
 
@@ -27,11 +28,15 @@ public:
     ~LabelSetsDialog() override;
     Q_DISABLE_COPY_MOVE(LabelSetsDialog)
 
+    /// Asks about labels that are edited but not written yet.
+    void reject() override;
+
 private:
     QWidget *createSets();
     QWidget *createLabels();
     QPushButton *addButton(QLayout *layout, const QString &text, void (LabelSetsDialog::*slot)());
-    void list();
+    /// Lists the sets and shows the one that \a member has, or else the one in \a row or the last.
+    void list(int row, const TDcVariable *member = nullptr);
     void showSet(int row);
     void showLabels(int current);
     void updateButtons();
@@ -41,6 +46,7 @@ private:
     void moveUp() { move(true); }
     void moveDown() { move(false); }
     void move(bool up);
+    void takeBack();
     void apply();
 
     [[nodiscard]] QList<ValueLabelElement *> selected() const;
@@ -54,7 +60,8 @@ private:
     QHash<const ValueLabelElement *, int> m_origins; // Rows of the draft's labels in the set.
     QAbstractItemModel *m_model = nullptr; // Of the draft; owned by the dialog.
     QListWidget *m_list;
-    QLabel *m_members;
+    QLabel *m_pending; // Says why the list is off.
+    QPlainTextEdit *m_members;
     QTableView *m_view;
     QPushButton *m_add;
     QPushButton *m_remove;

@@ -983,6 +983,15 @@
         <source>copying values of %1 to %L2 variables</source>
         <translation>Kopieren der Werte von %1 auf %L2 Variablen</translation>
     </message>
+    <message>
+        <source>%1 has none.</source>
+        <translation>%1 hat keine.</translation>
+    </message>
+    <message>
+        <source>copying values of %1 to %2</source>
+        <comment>two variables</comment>
+        <translation>Kopieren der Werte von %1 auf %2</translation>
+    </message>
 </context>
 <context>
     <name>CsvDialect</name>
@@ -2135,6 +2144,10 @@
         <source>Not everything could be written:</source>
         <translation>Nicht alles konnte geschrieben werden:</translation>
     </message>
+    <message>
+        <source>will be emptied</source>
+        <translation>wird geleert</translation>
+    </message>
 </context>
 <context>
     <name>EntitiesPage</name>
@@ -2785,6 +2798,22 @@
         <source>%L1 variables: %2</source>
         <comment>how many have these labels</comment>
         <translation>%L1 Variablen: %2</translation>
+    </message>
+    <message>
+        <source>Change or reset the labels before you go to another set.</source>
+        <translation>Ändern Sie die Labels oder setzen Sie sie zurück, bevor Sie zu einem anderen Satz gehen.</translation>
+    </message>
+    <message>
+        <source>&amp;Variables that have the set</source>
+        <translation>&amp;Variablen, die den Satz haben</translation>
+    </message>
+    <message>
+        <source>Change the labels in all variables that have the set?</source>
+        <translation>Die Labels in allen Variablen ändern, die den Satz haben?</translation>
+    </message>
+    <message>
+        <source>Otherwise what you have edited is lost.</source>
+        <translation>Sonst geht verloren, was Sie bearbeitet haben.</translation>
     </message>
 </context>
 <context>

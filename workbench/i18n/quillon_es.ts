@@ -983,6 +983,15 @@
         <source>copying values of %1 to %L2 variables</source>
         <translation>copiar valores de %1 a %L2 variables</translation>
     </message>
+    <message>
+        <source>%1 has none.</source>
+        <translation>%1 no tiene.</translation>
+    </message>
+    <message>
+        <source>copying values of %1 to %2</source>
+        <comment>two variables</comment>
+        <translation>copiar valores de %1 a %2</translation>
+    </message>
 </context>
 <context>
     <name>CsvDialect</name>
@@ -2135,6 +2144,10 @@
         <source>Not everything could be written:</source>
         <translation>No se pudo escribir todo:</translation>
     </message>
+    <message>
+        <source>will be emptied</source>
+        <translation>se vaciará</translation>
+    </message>
 </context>
 <context>
     <name>EntitiesPage</name>
@@ -2785,6 +2798,22 @@
         <source>%L1 variables: %2</source>
         <comment>how many have these labels</comment>
         <translation>%L1 variables: %2</translation>
+    </message>
+    <message>
+        <source>Change or reset the labels before you go to another set.</source>
+        <translation>Cambie o restablezca las etiquetas antes de pasar a otro conjunto.</translation>
+    </message>
+    <message>
+        <source>&amp;Variables that have the set</source>
+        <translation>Variables &amp;que tienen el conjunto</translation>
+    </message>
+    <message>
+        <source>Change the labels in all variables that have the set?</source>
+        <translation>¿Cambiar las etiquetas en todas las variables que tienen el conjunto?</translation>
+    </message>
+    <message>
+        <source>Otherwise what you have edited is lost.</source>
+        <translation>De lo contrario se pierde lo que ha editado.</translation>
     </message>
 </context>
 <context>

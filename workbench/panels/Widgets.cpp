@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -43,7 +44,7 @@ protected:
     }
 };
 
-/// Gives the rows of a tree the height that rows of tables have.
+/// Gives the rows of a list or a tree the height that rows of tables have.
 class RoomyRows : public LegibleIcons
 {
 public:
@@ -141,6 +142,16 @@ void Widgets::setUpTree(QTreeView *tree, const QString &name)
     tree->setItemDelegate(new RoomyRows(tree));
     tree->setIndentation(16);
     tree->header()->hide();
+}
+
+void Widgets::setUpList(QListView *list, const QString &name)
+{
+    list->setAccessibleName(name);
+    list->setItemDelegate(new RoomyRows(list));
+    list->setIconSize(QSize(16, 16));
+    list->setUniformItemSizes(true);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setTextElideMode(Qt::ElideRight);
 }
 
 void Widgets::finishEditing(const QWidget *window)

@@ -7,6 +7,7 @@
 class QAbstractItemView;
 class QAction;
 class QLineEdit;
+class QListView;
 class QTableView;
 class QToolButton;
 class QTreeView;
@@ -26,6 +27,8 @@ namespace Widgets
 void setUpTable(QTableView *table, const QString &name);
 /// Sets up a tree of names.
 void setUpTree(QTreeView *tree, const QString &name);
+/// Sets up a list of names: what does not fit is cut short.
+void setUpList(QListView *list, const QString &name);
 /// Enters what is being typed into a control of \a window, which may be null. The focus stays.
 void finishEditing(const QWidget *window);
 /// Lets \a key trigger \a action while \a view has the focus. Editors in the view keep the key for
