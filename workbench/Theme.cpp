@@ -25,13 +25,13 @@ constexpr Colours light{.window = 0xf3f4f6,
                         .highlight = 0xcfe2f9,
                         .highlighted = 0x10233a,
                         .link = 0x1f62b0};
-constexpr Colours dark{.window = 0x34373c,
-                       .base = 0x212327,
-                       .alternate = 0x26282d,
+constexpr Colours dark{.window = 0x26292d,
+                       .base = 0x1b1d20,
+                       .alternate = 0x202226,
                        .text = 0xe4e6ea,
                        .faint = 0x9aa1ab,
-                       .button = 0x43474e,
-                       .border = 0x54585f,
+                       .button = 0x1f2226,
+                       .border = 0x4b4f56,
                        .highlight = 0x244467,
                        .highlighted = 0xffffff,
                        .link = 0x6fb0f5};
@@ -58,24 +58,53 @@ QPalette paletteOf(const Colours &colours)
     return palette;
 }
 
-/// Draws a frame around check boxes that can be seen on any ground. The style's own is darker than a window,
-/// and so cannot be told from a dark list.
-class FramedBoxes : public QProxyStyle
+/// Fusion, where what it draws can be told apart on a dark ground too.
+class ThemeStyle : public QProxyStyle
 {
 public:
-    FramedBoxes() : QProxyStyle(u"Fusion"_s) { }
+    ThemeStyle() : QProxyStyle(u"Fusion"_s) { }
 
+    /// Adds a frame to check boxes and radio buttons. The style's own is darker than a window, and so cannot
+    /// be told from a dark list.
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override
     {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
-        if (element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck)
+        const bool round = element == PE_IndicatorRadioButton;
+        if (!round && element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck)
             return;
+        const QRect frame = option->rect.adjusted(0, 0, -1, -1);
         painter->save();
-        painter->setPen(option->palette.color(QPalette::PlaceholderText));
+        painter->setPen(QPen(option->palette.color(QPalette::PlaceholderText), round ? 1.4 : 1));
         painter->setBrush(Qt::NoBrush);
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        painter->setRenderHint(QPainter::Antialiasing, round);
+        if (round)
+            painter->drawEllipse(QRectF(frame).translated(0.5, 0.5));
+        else
+            painter->drawRect(frame);
         painter->restore();
+    }
+
+    /// A light shadow below disabled texts looks like a second text on a dark ground.
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                                QStyleHintReturn *data) const override
+    {
+        return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+
+    /// Disabled images are faint. The style's grey ones are brighter than the images on a dark ground.
+    [[nodiscard]] QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                              const QStyleOption *option) const override
+    {
+        if (mode != QIcon::Disabled)
+            return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+        QPixmap faint(pixmap.size());
+        faint.setDevicePixelRatio(pixmap.devicePixelRatio());
+        faint.fill(Qt::transparent);
+        QPainter painter(&faint);
+        painter.setOpacity(0.4);
+        painter.drawPixmap(0, 0, pixmap);
+        return faint;
     }
 };
 } // namespace
@@ -86,7 +115,7 @@ bool Theme::apply(const QString &name)
         return true;
     if (name != "light"_L1 && name != "dark"_L1)
         return false;
-    QApplication::setStyle(new FramedBoxes);
+    QApplication::setStyle(new ThemeStyle);
     QApplication::setPalette(paletteOf(name == "dark"_L1 ? dark : light));
     return true;
 }

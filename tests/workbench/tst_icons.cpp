@@ -1,15 +1,18 @@
 #include "common/IconPaths.h"
+#include "tests/workbench/Contrast.h"
+#include "workbench/Theme.h"
 
+#include <QApplication>
 #include <QColor>
 #include <QDirIterator>
 #include <QFile>
 #include <QIcon>
 #include <QImage>
+#include <QPalette>
 #include <QPixmap>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -114,31 +117,35 @@ void TestIcons::tableIsWhatIsCompiledIn()
 
 void TestIcons::colours_data()
 {
+    QTest::addColumn<QString>("theme");
     QTest::addColumn<QString>("colour");
     QSet<QString> colours;
     const QList<QStringList> rows = table();
     for (const QStringList &row : rows)
         colours.insert(row.at(2));
-    for (const QString &colour : std::as_const(colours))
-        QTest::addRow("%s", qPrintable(colour)) << colour;
+    for (const QString &theme : {u"light"_s, u"dark"_s}) {
+        for (const QString &colour : std::as_const(colours))
+            QTest::addRow("%s, %s", qPrintable(theme), qPrintable(colour)) << theme << colour;
+    }
 }
 
 void TestIcons::colours()
 {
-    QFETCH(const QString, colour);
-    const auto luminance = [](const QColor &of) {
-        const auto linear = [](double part) {
-            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(of.redF()) + 0.7152 * linear(of.greenF()) + 0.0722 * linear(of.blueF());
-    };
-    const auto contrast = [&](const QColor &one, const QColor &other) {
-        const auto [low, high] = std::minmax({luminance(one), luminance(other)});
-        return (high + 0.05) / (low + 0.05);
-    };
+    QFETCH(QString, theme);
+    QFETCH(QString, colour);
     QVERIFY(QColor::isValidColor(colour));
-    QVERIFY(contrast(QColor(colour), Qt::white) >= 3);
-    QVERIFY(contrast(QColor(colour), QColor(0x20, 0x20, 0x20)) >= 3);
+    QVERIFY(Theme::apply(theme));
+    QList<QColor> grounds;
+    for (QPalette::ColorRole role : {QPalette::Window, QPalette::Base, QPalette::AlternateBase})
+        grounds.append(QApplication::palette().color(role));
+    // A style draws buttons in other colours than the palette's.
+    QPushButton button;
+    button.resize(80, 24);
+    const QImage drawn = button.grab().toImage();
+    for (int y : {4, 12, 20})
+        grounds.append(drawn.pixelColor(40, y));
+    for (const QColor &ground : std::as_const(grounds))
+        QVERIFY2(Contrast::between(QColor(colour), ground) >= 3, qPrintable(ground.name()));
 }
 
 void TestIcons::areDrawn_data()

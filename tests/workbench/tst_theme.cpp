@@ -1,34 +1,15 @@
+#include "tests/workbench/Contrast.h"
 #include "workbench/Theme.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QImage>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
 #include <QTest>
 
-#include <cmath>
-
 using namespace Qt::Literals::StringLiterals;
-
-namespace
-{
-double luminance(const QColor &colour)
-{
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
-}
-
-/// 1 for equal colours, 21 for black on white.
-double contrast(const QColor &left, const QColor &right)
-{
-    const auto [less, more] = std::minmax({luminance(left), luminance(right)});
-    return (more + 0.05) / (less + 0.05);
-}
-} // namespace
 
 class TestTheme : public QObject
 {
@@ -36,8 +17,20 @@ class TestTheme : public QObject
 
 private Q_SLOTS:
     void refusesOtherNames();
-    void showsEmptyCheckBoxes_data();
-    void showsEmptyCheckBoxes();
+    void showsEmptyBoxes_data();
+    void showsEmptyBoxes();
+    void drawsDisabledTextsOnce_data() { themes(); }
+    void drawsDisabledTextsOnce();
+    void dimsDisabledImages_data() { themes(); }
+    void dimsDisabledImages();
+
+private:
+    static void themes()
+    {
+        QTest::addColumn<QString>("theme");
+        QTest::addRow("light") << u"light"_s;
+        QTest::addRow("dark") << u"dark"_s;
+    }
 };
 
 void TestTheme::refusesOtherNames()
@@ -49,20 +42,26 @@ void TestTheme::refusesOtherNames()
     QCOMPARE(QApplication::palette(), before);
 }
 
-void TestTheme::showsEmptyCheckBoxes_data()
+void TestTheme::showsEmptyBoxes_data()
 {
     QTest::addColumn<QString>("theme");
+    QTest::addColumn<QStyle::PrimitiveElement>("box");
     QTest::addColumn<QPalette::ColorRole>("ground");
     for (const QString &theme : {u"light"_s, u"dark"_s}) {
-        QTest::addRow("%s, in a list", qPrintable(theme)) << theme << QPalette::Base;
-        QTest::addRow("%s, in a form", qPrintable(theme)) << theme << QPalette::Window;
-        QTest::addRow("%s, selected", qPrintable(theme)) << theme << QPalette::Highlight;
+        for (const auto &[name, box] : {std::pair("check box", QStyle::PE_IndicatorItemViewItemCheck),
+                                        std::pair("radio button", QStyle::PE_IndicatorRadioButton)}) {
+            const QByteArray row = theme.toLatin1() + ", " + name;
+            QTest::addRow("%s, in a list", row.constData()) << theme << box << QPalette::Base;
+            QTest::addRow("%s, in a form", row.constData()) << theme << box << QPalette::Window;
+            QTest::addRow("%s, selected", row.constData()) << theme << box << QPalette::Highlight;
+        }
     }
 }
 
-void TestTheme::showsEmptyCheckBoxes()
+void TestTheme::showsEmptyBoxes()
 {
     QFETCH(const QString, theme);
+    QFETCH(const QStyle::PrimitiveElement, box);
     QFETCH(const QPalette::ColorRole, ground);
     QVERIFY(Theme::apply(theme));
     const QColor behind = QApplication::palette().color(ground);
@@ -73,11 +72,43 @@ void TestTheme::showsEmptyCheckBoxes()
     option.palette = QApplication::palette();
     option.rect = QRect(1, 1, 13, 13);
     option.state = QStyle::State_Enabled | QStyle::State_Off;
-    QApplication::style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &option, &painter);
+    QApplication::style()->drawPrimitive(box, &option, &painter);
     painter.end();
-    // What a control is known by stands out by 3:1.
     for (const QPoint &edge : {QPoint(1, 7), QPoint(13, 7), QPoint(7, 1), QPoint(7, 13)})
-        QVERIFY2(contrast(image.pixelColor(edge), behind) >= 3, qPrintable(image.pixelColor(edge).name()));
+        QVERIFY2(Contrast::between(image.pixelColor(edge), behind) >= 3,
+                 qPrintable(image.pixelColor(edge).name()));
+}
+
+void TestTheme::drawsDisabledTextsOnce()
+{
+    QFETCH(const QString, theme);
+    QVERIFY(Theme::apply(theme));
+    QCOMPARE(QApplication::style()->styleHint(QStyle::SH_EtchDisabledText), 0);
+}
+
+void TestTheme::dimsDisabledImages()
+{
+    QFETCH(const QString, theme);
+    QVERIFY(Theme::apply(theme));
+    const QColor ground = QApplication::palette().color(QPalette::Window);
+    const auto drawn = [&ground](const QString &name, QIcon::Mode mode) {
+        QImage image(16, 16, QImage::Format_RGB32);
+        image.fill(ground);
+        QPainter painter(&image);
+        QIcon(u":/icons/res/icons/48px-%1.png"_s.arg(name))
+            .paint(&painter, image.rect(), Qt::AlignCenter, mode);
+        painter.end();
+        double most = 1;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                most = std::max(most, Contrast::between(image.pixelColor(x, y), ground));
+        }
+        return most;
+    };
+    // Whatever can be pressed is clearer than anything that cannot.
+    for (const QString &name : {u"Add"_s, u"Remove"_s, u"Move-up"_s})
+        QVERIFY(drawn(name, QIcon::Normal) >= 1.5 * drawn(u"Move-down"_s, QIcon::Disabled));
+    QVERIFY(drawn(u"Move-down"_s, QIcon::Disabled) > 1.2);
 }
 
 QTEST_MAIN(TestTheme)
