@@ -1,8 +1,8 @@
 #include "documents/DictionaryFile.h"
 
 #include "business/ProcessDictionaryBusiness.h"
+#include "documents/DocumentKind.h"
 #include "documents/internal/DictionaryDocument.h"
-#include "documents/internal/DictionaryShape.h"
 #include "documents/internal/JsonText.h"
 #include "documents/internal/Keys.h"
 #include "model/OwnedList.h"
@@ -52,11 +52,14 @@ bool DictionaryFile::load(const QByteArray &bytes)
 
     Frame frame{.key = {}, .form = Form::Single, .others = {}, .style = text.style};
     QVariant roots = text.value;
-    if (QVariantMap map = text.value.toMap();
-        !DictionaryShape::isEntity(map) && roots.typeId() == QMetaType::QVariantMap) {
-        frame.key = map.contains(u"entities"_s) ? u"entities"_s : u"root"_s;
-        roots = map.take(frame.key);
-        frame.others = map;
+    if (QVariantMap map = text.value.toMap(); roots.typeId() == QMetaType::QVariantMap) {
+        if (DocumentKind::isRunConfiguration(map))
+            return fail(Error::NoRoot, tr("This is a run configuration, not a dictionary."));
+        frame.key = DocumentKind::rootKey(map);
+        if (!frame.key.isEmpty()) {
+            roots = map.take(frame.key);
+            frame.others = map;
+        }
     }
     if (roots.typeId() == QMetaType::QVariantList)
         frame.form = Form::Element;

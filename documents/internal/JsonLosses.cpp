@@ -1,6 +1,6 @@
 #include "documents/internal/JsonLosses.h"
 
-#include "documents/internal/JsonText.h"
+#include "documents/TextPosition.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -64,7 +64,7 @@ bool isKept(QByteArrayView token)
 class Scanner
 {
 public:
-    explicit Scanner(const QByteArray &text) : m_text(text) { }
+    explicit Scanner(const QByteArray &text) : m_text(text), m_positions(text) { }
 
     QStringList losses()
     {
@@ -193,10 +193,11 @@ private:
 
     void lose(qsizetype offset, const QString &what)
     {
-        m_losses.append(u"%1: %2 %3"_s.arg(JsonText::place(m_text.toByteArray(), offset), path(), what));
+        m_losses.append(u"%1: %2 %3"_s.arg(m_positions.at(offset).toString(), path(), what));
     }
 
     QByteArrayView m_text;
+    TextPositions m_positions; // Of what is lost, one after the other.
     qsizetype m_at = 0;
     bool m_expectsKey = false;
     QList<Level> m_levels;

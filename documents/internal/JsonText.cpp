@@ -1,17 +1,17 @@
 #include "documents/internal/JsonText.h"
 
+#include "documents/TextPosition.h"
+
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-constexpr QByteArrayView mark("\xEF\xBB\xBF");
+constexpr QByteArrayView mark = TextPosition::byteOrderMark;
 
 /// Qt takes the character of a byte order mark at the beginning of any text inside for a mark and drops it.
 /// Written as an escape it stays.
@@ -22,27 +22,19 @@ QByteArray withEscapedMarks(const QByteArray &bytes)
 }
 } // namespace
 
-QString JsonText::place(const QByteArray &bytes, qsizetype offset)
-{
-    const QByteArrayView before = QByteArrayView(bytes).first(std::clamp<qsizetype>(offset, 0, bytes.size()));
-    const qsizetype lineStart = before.lastIndexOf('\n') + 1;
-    QByteArrayView line = before.sliced(lineStart);
-    if (lineStart == 0 && line.startsWith(mark))
-        line = line.sliced(mark.size());
-    return QCoreApplication::translate("DocumentFile", "line %1, column %2")
-        .arg(before.count('\n') + 1)
-        .arg(QString::fromUtf8(line).size() + 1);
-}
-
 JsonText::Content JsonText::read(const QByteArray &bytes)
 {
     Content content;
     content.style = {.byteOrderMark = bytes.startsWith(mark), .indented = bytes.trimmed().contains('\n')};
+    if ((content.style.byteOrderMark ? bytes.sliced(mark.size()) : bytes).trimmed().isEmpty()) {
+        content.problem = QCoreApplication::translate("DocumentFile", "The file is empty.");
+        return content;
+    }
     QJsonParseError error;
     QJsonDocument document = QJsonDocument::fromJson(withEscapedMarks(bytes), &error);
     if (error.error != QJsonParseError::NoError) {
         document = QJsonDocument::fromJson(bytes, &error); // Places count in the text as it stands.
-        content.problem = u"%1: %2"_s.arg(place(bytes, error.offset), error.errorString());
+        content.problem = u"%1: %2"_s.arg(TextPosition::of(bytes, error).toString(), error.errorString());
         return content;
     }
     content.value = document.isArray() ? QVariant(document.array().toVariantList())

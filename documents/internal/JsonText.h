@@ -27,7 +27,4 @@ struct Content {
 
 /// The text of \a value, an object or an array.
 [[nodiscard]] QByteArray write(const QJsonValue &value, Style style);
-
-/// The place of the byte at \a offset as "line 3, column 5". Columns are characters.
-[[nodiscard]] QString place(const QByteArray &bytes, qsizetype offset);
 } // namespace JsonText

@@ -5,6 +5,7 @@
 #include "tests/documents/Files.h"
 #include "tests/documents/RandomDocument.h"
 #include "tests/documents/RandomEdits.h"
+#include "tests/support/Growth.h"
 #include "tests/support/Trees.h"
 
 #include <QJsonArray>
@@ -466,18 +467,23 @@ private Q_SLOTS:
         QTest::addRow("empty root") << QByteArray("{\"root\": {}}") << NoRoot << none;
         QTest::addRow("text") << QByteArray("{\"root\": \"a\"}") << NoRoot << none;
         QTest::addRow("unknown keys") << QByteArray("{\"foo\": 1}") << NoRoot << none;
+        QTest::addRow("run configuration")
+            << QByteArray("{\"database\":{},\"type\":\"config\",\"entities\":[{\"name\":\"A\"}]}") << NoRoot
+            << u"This is a run configuration, not a dictionary."_s;
         QTest::addRow("two") << QByteArray("{\"root\": [{}, {}]}") << SeveralRoots
                              << u"There are 2 root entities instead of one."_s;
-        QTest::addRow("nothing") << QByteArray() << Malformed << u"line 1, column 1: illegal value"_s;
-        QTest::addRow("no JSON") << QByteArray("<xml/>") << Malformed << u"line 1, column 2: illegal value"_s;
+        QTest::addRow("nothing") << QByteArray() << Malformed << u"The file is empty."_s;
+        QTest::addRow("blanks") << QByteArray(" \n") << Malformed << u"The file is empty."_s;
+        QTest::addRow("a mark alone") << QByteArray("\xEF\xBB\xBF") << Malformed << u"The file is empty."_s;
+        QTest::addRow("no JSON") << QByteArray("<xml/>") << Malformed << u"line 1, column 1: illegal value"_s;
         QTest::addRow("comma") << QByteArray("{\n  \"ä\": [1,]\n}") << Malformed
-                               << u"line 2, column 12: object is missing after a comma"_s;
+                               << u"line 2, column 11: object is missing after a comma"_s;
         QTest::addRow("garbage") << QByteArray("\xEF\xBB\xBF{} x") << Malformed
                                  << u"line 1, column 4: garbage at the end of the document"_s;
         QTest::addRow("bytes") << QByteArray("{\"a\": \"\xff\"}") << Malformed
                                << u"line 1, column 8: invalid UTF8 string"_s;
         QTest::addRow("deep") << QByteArray(2000, '[') << Malformed
-                              << u"line 1, column 1026: too deeply nested document"_s;
+                              << u"line 1, column 1025: too deeply nested document"_s;
     }
 
     void refusesDocumentsWithoutOneRoot()
@@ -526,6 +532,23 @@ private Q_SLOTS:
         QVERIFY(opened.dictionary.save(DocumentFile::AcceptLosses));
         QVERIFY(opened.dictionary.losses().isEmpty());
         QVERIFY(opened.dictionary.save());
+    }
+
+    void findingLossesTakesTimeInProportion_data()
+    {
+        QTest::addColumn<QByteArray>("separator");
+        QTest::addRow("in lines of their own") << QByteArray(",\n");
+        QTest::addRow("in one line") << QByteArray(",");
+    }
+
+    void findingLossesTakesTimeInProportion()
+    {
+        QFETCH(QByteArray, separator);
+        const auto find = [&separator](int count) {
+            const QByteArray text = "[0" + (separator + "0.1234567890123456789").repeated(count) + "]";
+            QCOMPARE(DocumentFile::lossesOf(text).size(), count);
+        };
+        QVERIFY(growth(find, 1000, 10000) < 30); // 100 when each loss looks at all that stands before it.
     }
 
     void looksAsItLooked()

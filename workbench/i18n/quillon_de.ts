@@ -2012,6 +2012,10 @@
         <source>There are %1 root entities instead of one.</source>
         <translation>Es gibt %1 Wurzelentitäten statt einer.</translation>
     </message>
+    <message>
+        <source>This is a run configuration, not a dictionary.</source>
+        <translation>Das ist eine Laufkonfiguration, kein Wörterbuch.</translation>
+    </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>
@@ -2108,6 +2112,10 @@
     <message>
         <source>line %1, column %2</source>
         <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
     </message>
 </context>
 <context>

@@ -2012,6 +2012,10 @@
         <source>There are %1 root entities instead of one.</source>
         <translation>Hay %1 entidades raíz en lugar de una.</translation>
     </message>
+    <message>
+        <source>This is a run configuration, not a dictionary.</source>
+        <translation>Esto es una configuración de ejecución, no un diccionario.</translation>
+    </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>
@@ -2108,6 +2112,10 @@
     <message>
         <source>line %1, column %2</source>
         <translation>línea %1, columna %2</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>El archivo está vacío.</translation>
     </message>
 </context>
 <context>
