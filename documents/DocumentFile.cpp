@@ -1,10 +1,11 @@
 #include "documents/DocumentFile.h"
 
+#include "documents/internal/InputFile.h"
 #include "documents/internal/JsonLosses.h"
+#include "documents/internal/JsonText.h"
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QSaveFile>
@@ -19,26 +20,6 @@ constexpr auto anyoneMayWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::W
 QByteArray digestOfBytes(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256);
-}
-
-/// The whole content of a regular file; null with \a problem set when it cannot be had.
-QByteArray contentOf(const QString &path, QString *problem)
-{
-    const QFileInfo info(path);
-    if (path.isEmpty() || !info.isFile()) {
-        *problem = !path.isEmpty() && info.exists() ? DocumentFile::tr("It is not a file.")
-                                                    : DocumentFile::tr("There is no such file.");
-        return {};
-    }
-    QFile file(path);
-    QByteArray bytes;
-    if (file.open(QIODevice::ReadOnly))
-        bytes = file.readAll();
-    if (file.error() != QFile::NoError) {
-        *problem = file.errorString();
-        return {};
-    }
-    return bytes.isNull() ? QByteArray("") : bytes;
 }
 
 /// Where the content lies: a link to a file stays a link.
@@ -67,7 +48,7 @@ void DocumentFile::remember(const QString &path, const QByteArray &bytes)
 bool DocumentFile::open(const QString &path)
 {
     QString problem;
-    const QByteArray bytes = contentOf(path, &problem);
+    const QByteArray bytes = InputFile::read(path, &problem);
     if (bytes.isNull())
         return fail(Error::CannotRead,
                     tr("%1 cannot be read: %2").arg(QDir::toNativeSeparators(path), problem));
@@ -107,7 +88,7 @@ void DocumentFile::belongAs(const DocumentFile &other)
 QByteArray DocumentFile::digestOf(const QString &path)
 {
     QString problem;
-    const QByteArray bytes = contentOf(path, &problem);
+    const QByteArray bytes = InputFile::read(path, &problem);
     return bytes.isNull() ? QByteArray() : digestOfBytes(bytes);
 }
 
@@ -122,7 +103,7 @@ bool DocumentFile::isChangedByOthers() const
 {
     QString problem;
     const QByteArray bytes =
-        !m_digest.isEmpty() && QFileInfo::exists(m_path) ? contentOf(m_path, &problem) : QByteArray();
+        !m_digest.isEmpty() && QFileInfo::exists(m_path) ? InputFile::read(m_path, &problem) : QByteArray();
     // A file that cannot be read any more has been changed as well.
     return !problem.isEmpty() || (!bytes.isNull() && digestOfBytes(bytes) != m_digest);
 }
@@ -152,6 +133,12 @@ bool DocumentFile::saveAs(const QString &path, SaveOptions options)
 bool DocumentFile::overwrite(const QString &path)
 {
     const QByteArray bytes = content();
+    if (JsonText::isTooDeep(bytes)) {
+        return fail(Error::CannotWrite,
+                    tr("%1 is not written: it could not be read again, because more is nested in it than a "
+                       "file may have.")
+                        .arg(QDir::toNativeSeparators(path)));
+    }
     QSaveFile file(resolved(path)); // Takes over the permissions of the file that it replaces.
     bool done = file.open(QIODevice::WriteOnly);
     // Before there is anything to be read.

@@ -12,6 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 constexpr QByteArrayView mark = TextPosition::byteOrderMark;
+constexpr int deepest = 1024; ///< Objects and arrays within one another that Qt's parser takes.
 
 /// Qt takes the character of a byte order mark at the beginning of any text inside for a mark and drops it.
 /// Written as an escape it stays.
@@ -49,4 +50,22 @@ QByteArray JsonText::write(const QJsonValue &value, Style style)
     const QByteArray text =
         withEscapedMarks(document.toJson(style.indented ? QJsonDocument::Indented : QJsonDocument::Compact));
     return style.byteOrderMark ? QByteArray(mark.toByteArray() + text) : text;
+}
+
+bool JsonText::isTooDeep(QByteArrayView text)
+{
+    int depth = 0;
+    bool quoted = false;
+    for (qsizetype i = 0; i < text.size() && depth <= deepest; ++i) {
+        const char c = text[i];
+        if (quoted && c == '\\')
+            ++i;
+        else if (c == '"')
+            quoted = !quoted;
+        else if (!quoted && (c == '{' || c == '['))
+            ++depth;
+        else if (!quoted && (c == '}' || c == ']'))
+            --depth;
+    }
+    return depth > deepest;
 }

@@ -27,4 +27,7 @@ struct Content {
 
 /// The text of \a value, an object or an array.
 [[nodiscard]] QByteArray write(const QJsonValue &value, Style style);
+
+/// Whether so much is nested in \a text, which is well-formed otherwise, that read() refuses it.
+[[nodiscard]] bool isTooDeep(QByteArrayView text);
 } // namespace JsonText

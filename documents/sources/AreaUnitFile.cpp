@@ -57,6 +57,7 @@ QList<qsizetype> ring(qsizetype start, const QList<qsizetype> &parents, QList<in
     std::rotate(rows.begin(), std::min_element(rows.begin(), rows.end()), rows.end());
     return rows;
 }
+
 /// The units of a file on their way from rows to trees.
 class Units
 {
@@ -74,8 +75,7 @@ public:
         } else if (m_byCode.contains(code)) {
             report(row.line,
                    tr("The code \"%1\" stands in line %2 too.")
-                       .arg(code)
-                       .arg(m_rows[size_t(m_byCode.value(code))].line));
+                       .arg(code, QString::number(m_rows[size_t(m_byCode.value(code))].line)));
         } else {
             m_byCode.insert(code, qsizetype(m_rows.size()));
             m_rows.push_back({std::move(unit), columns.cell(row.cells, Parent), row.line});

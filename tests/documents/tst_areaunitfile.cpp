@@ -130,6 +130,9 @@ void tst_AreaUnitFile::refuses_data()
                                 << u"a.csv, line 3: The code is empty."_s;
     QTest::addRow("twice") << QByteArray("code,parent\n1,\n2,1\n2,1\n")
                            << u"a.csv, line 4: The code \"2\" stands in line 3 too."_s;
+    QTest::addRow("twice, with what looks like a place for a text")
+        << QByteArray("code,parent\na%2b%1,\na%2b%1,\n")
+        << u"a.csv, line 3: The code \"a%2b%1\" stands in line 2 too."_s;
     QTest::addRow("missing parent") << QByteArray("code,parent\n1,\n2,7\n")
                                     << u"a.csv, line 3: The parent \"7\" of \"2\" is not in the file."_s;
     QTest::addRow("own parent") << QByteArray("code,parent\n1,\n2,2\n")
@@ -169,8 +172,8 @@ void tst_AreaUnitFile::everyTruncationGivesUnitsOrAnError()
     const QByteArray content("code,parent,name\n1,,\"Land, all\"\n10,1,North\n101,10,Town\n");
     for (qsizetype length = 0; length < content.size(); ++length) {
         const SourceAreaUnits result = AreaUnitFile::read(files.write(u"a.csv"_s, content.left(length)));
-        QVERIFY(result.ok() == result.errors.isEmpty());
-        QVERIFY(result.ok() || result.list()->isEmpty());
+        const bool headerAlone = !content.left(length).trimmed().contains('\n');
+        QCOMPARE(result.list()->isEmpty(), headerAlone || !result.errors.isEmpty());
     }
 }
 

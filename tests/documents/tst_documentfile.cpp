@@ -9,6 +9,7 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -56,16 +57,31 @@ class tst_DocumentFile : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void filesThatCannotBeReadAreRefused_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("problem");
+        QTest::addRow("folder") << u"."_s << u"It is a folder, not a file."_s;
+        QTest::addRow("nothing there") << u"missing"_s << u"There is no such file."_s;
+        QTest::addRow("no name") << QString() << u"There is no such file."_s;
+        QTest::addRow("a device that never ends")
+            << u"/dev/zero"_s << u"It is a device or a pipe, not a file."_s;
+        QTest::addRow("a pipe that nobody writes into")
+            << u"pipe"_s << u"It is a device or a pipe, not a file."_s;
+    }
+
     void filesThatCannotBeReadAreRefused()
     {
+        QFETCH(QString, name);
         const TemporaryFile file;
+        QCOMPARE(mkfifo(QFile::encodeName(file.folder() + u"/pipe"_s).constData(), S_IRUSR | S_IWUSR), 0);
+        const QString path = name.isEmpty() ? name : QDir(file.folder()).absoluteFilePath(name);
         DictionaryFile dictionary;
-        for (const QString &path :
-             {file.folder(), file.folder() + u"/missing"_s, QString(), u"/dev/zero"_s}) {
-            QVERIFY(!dictionary.open(path));
-            QCOMPARE(dictionary.error(), DocumentFile::Error::CannotRead);
-            QVERIFY(dictionary.errorText().startsWith(path + u" cannot be read: "_s));
-        }
+        QVERIFY(!dictionary.open(path));
+        QCOMPARE(dictionary.error(), DocumentFile::Error::CannotRead);
+        QFETCH(QString, problem);
+        QCOMPARE(dictionary.errorText(), path + u" cannot be read: "_s + problem);
+        QVERIFY(DocumentFile::digestOf(path).isEmpty());
     }
 
     void aFileChangedByOthersIsNotOverwrittenUnasked()
@@ -184,6 +200,37 @@ private Q_SLOTS:
         QCOMPARE(dictionary.losses().size(), 1);
         QVERIFY(dictionary.saveAs(file.folder() + u"/other"_s));
         QVERIFY(dictionary.losses().isEmpty());
+    }
+
+    void whatCouldNotBeReadAgainIsNotWritten()
+    {
+        const TemporaryFile file(smallDictionary);
+        int levels = 500;
+        const auto save = [&](int depth) {
+            DictionaryFile dictionary;
+            QVERIFY(dictionary.open(file.path()));
+            TDcEntity *last = dictionary.root();
+            for (int level = 1; level < depth; ++level) {
+                auto *child = new TDcEntity;
+                child->setLabel(u"[[{\"{["_s); // Nothing is nested in a text.
+                last->getChildren()->append(child);
+                last = child;
+            }
+            const QByteArray before = file.bytes();
+            if (dictionary.save()) {
+                levels = depth;
+            } else {
+                QCOMPARE(dictionary.error(), DocumentFile::Error::CannotWrite);
+                QCOMPARE(file.bytes(), before);
+            }
+        };
+        for (int depth = 505; depth < 520; ++depth) {
+            save(depth);
+            DictionaryFile again;
+            QVERIFY2(again.open(file.path()), qPrintable(again.errorText()));
+            file.set(smallDictionary);
+        }
+        QCOMPARE(levels, 512); // The root in its object, each of the others in its list.
     }
 
     void aFullDiskLeavesTheOldFile()

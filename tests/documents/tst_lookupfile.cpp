@@ -80,8 +80,8 @@ void tst_LookupFile::everyTruncationGivesLookupsOrAnError()
     const QByteArray content("id,label\n12,\"Regions, all\"\n13,\"Towns\"\n");
     for (qsizetype length = 0; length < content.size(); ++length) {
         const SourceLookups result = LookupFile::read(files.write(u"a.csv"_s, content.left(length)));
-        QVERIFY(result.ok() == result.errors.isEmpty());
-        QVERIFY(result.ok() || result.list()->isEmpty());
+        const bool headerAlone = !content.left(length).trimmed().contains('\n');
+        QCOMPARE(result.list()->isEmpty(), headerAlone || !result.errors.isEmpty());
     }
 }
 

@@ -187,7 +187,7 @@ void tst_StatisticsFile::refusesAMissingCatalog()
     SourceOptions options;
     options.catalog = files.path(u"nowhere.sas7bcat"_s);
     const SourceFields result = SourceReader::read(sourcePath(files, Sas), options);
-    QCOMPARE(messages(result.errors), u"nowhere.sas7bcat: No such file or directory"_s);
+    QCOMPARE(messages(result.errors), u"nowhere.sas7bcat: There is no such file."_s);
     QVERIFY(result.list()->isEmpty());
 }
 
@@ -366,10 +366,10 @@ void tst_StatisticsFile::refusesWhatIsNoFile()
 {
     const SourceFiles files;
     QCOMPARE(messages(SourceReader::read(files.path(u"none.sav"_s)).errors),
-             u"none.sav: No such file or directory"_s);
+             u"none.sav: There is no such file."_s);
     QVERIFY(QDir().mkdir(files.path(u"folder.dta"_s)));
     QCOMPARE(messages(SourceReader::read(files.path(u"folder.dta"_s)).errors),
-             u"folder.dta: This is no regular file."_s);
+             u"folder.dta: It is a folder, not a file."_s);
     QCOMPARE(
         messages(SourceReader::read(files.write(u"a.xlsx"_s, "x")).errors),
         u"a.xlsx: This kind of file is not known. Known are: sav, zsav, por, dta, sas7bdat, xpt, csv, tsv, "

@@ -1,5 +1,6 @@
 #include "documents/sources/SourceReader.h"
 #include "SourceFiles.h"
+#include "tests/support/Growth.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void readsAPackage();
     void readsABareSchema();
     void labelledMissingValuesAreCategoriesToo();
+    void missingValuesTakeTimeInProportion();
     void readsASchemaBesideThePackage();
     void notesAResourceWithoutSchema();
     void refuses_data();
@@ -75,6 +77,24 @@ void tst_TableSchema::labelledMissingValuesAreCategoriesToo()
     QCOMPARE(fieldLines(result), QStringList{u"a|STRING|0.0|:|-9;not asked||-9 Refused"_s});
 }
 
+void tst_TableSchema::missingValuesTakeTimeInProportion()
+{
+    const SourceFiles files;
+    const auto read = [&files](int fields, int codes) {
+        QByteArray text("{\"missingValues\": [\"-1\"");
+        for (int i = 0; i < codes; ++i)
+            text += ", \"" + QByteArray::number(i) + '"';
+        text += "], \"fields\": [{\"name\": \"a\"}" + QByteArray(", {\"name\": \"b\"}").repeated(fields - 1);
+        const SourceFields result = SourceReader::read(files.write(u"a.json"_s, text + "]}"));
+        QCOMPARE(result.list()->size(), fields);
+        QCOMPARE(result.list()->last()->missing.count(u'\t'), codes);
+    };
+    // 100 when each code is searched for among those before it.
+    QVERIFY(growth([&](int codes) { read(1, codes); }, 2000, 20000) < 30);
+    // 100 when every field reads them anew.
+    QVERIFY(growth([&](int fields) { read(fields, 20000); }, 1, 100) < 30);
+}
+
 void tst_TableSchema::readsASchemaBesideThePackage()
 {
     const SourceFiles files;
@@ -99,8 +119,9 @@ void tst_TableSchema::refuses_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("error");
-    QTest::addRow("no JSON") << QByteArray("{\n\"a\": }")
-                             << u"a.json, line 2: This is no valid JSON: object is missing after a comma."_s;
+    QTest::addRow("no JSON")
+        << QByteArray("{\n\"a\": }")
+        << u"a.json, line 2, column 6: This is no valid JSON: object is missing after a comma."_s;
     QTest::addRow("a list") << QByteArray("[]") << u"a.json: The file holds no JSON object."_s;
     QTest::addRow("neither") << QByteArray("{}") << u"a.json, schema: A table schema must list its fields."_s;
     QTest::addRow("no resources") << QByteArray(R"({"resources": []})")
@@ -112,7 +133,7 @@ void tst_TableSchema::refuses_data()
     QTest::addRow("no name") << QByteArray(R"({"fields": [{"name": "a"}, {"type": "string"}]})")
                              << u"a.json, schema, field 2: A field must have a name."_s;
     QTest::addRow("no file") << QByteArray(R"({"resources": [{"name": "p", "schema": "none.json"}]})")
-                             << u"a.json, none.json: No such file or directory"_s;
+                             << u"a.json, none.json: There is no such file."_s;
     for (const char *const path :
          {"../a.json", "/etc/passwd", "x/../../a.json", "https://example.org/a.json"}) {
         QTest::addRow("elsewhere: %s", path)

@@ -1050,20 +1050,12 @@
         <translation>Zeile %1</translation>
     </message>
     <message>
-        <source>This is no regular file.</source>
-        <translation>Dies ist keine gewöhnliche Datei.</translation>
-    </message>
-    <message>
         <source>The text is not valid in the encoding %1.</source>
         <translation>Der Text ist in der Kodierung %1 nicht gültig.</translation>
     </message>
 </context>
 <context>
     <name>DataFile</name>
-    <message>
-        <source>This is no regular file.</source>
-        <translation>Dies ist keine gewöhnliche Datei.</translation>
-    </message>
     <message>
         <source>byte %1 of %2</source>
         <translation>Byte %1 von %2</translation>
@@ -2070,14 +2062,6 @@
 <context>
     <name>DocumentFile</name>
     <message>
-        <source>It is not a file.</source>
-        <translation>Es ist keine Datei.</translation>
-    </message>
-    <message>
-        <source>There is no such file.</source>
-        <translation>Diese Datei gibt es nicht.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
@@ -2116,6 +2100,10 @@
     <message>
         <source>The file is empty.</source>
         <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 is not written: it could not be read again, because more is nested in it than a file may have.</source>
+        <translation>%1 wird nicht geschrieben: Es könnte nicht wieder gelesen werden, denn darin ist mehr ineinander verschachtelt, als in einer Datei sein darf.</translation>
     </message>
 </context>
 <context>
@@ -2726,6 +2714,21 @@
     <message>
         <source>change of %1</source>
         <translation>Änderung von %1</translation>
+    </message>
+</context>
+<context>
+    <name>InputFile</name>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Diese Datei gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>It is a folder, not a file.</source>
+        <translation>Es ist ein Ordner, keine Datei.</translation>
+    </message>
+    <message>
+        <source>It is a device or a pipe, not a file.</source>
+        <translation>Es ist ein Gerät oder eine Pipe, keine Datei.</translation>
     </message>
 </context>
 <context>
@@ -3536,18 +3539,6 @@
     <message>
         <source>schema</source>
         <translation>Schema</translation>
-    </message>
-    <message>
-        <source>This is no regular file.</source>
-        <translation>Dies ist keine gewöhnliche Datei.</translation>
-    </message>
-    <message>
-        <source>line %1</source>
-        <translation>Zeile %1</translation>
-    </message>
-    <message>
-        <source>%1, line %2</source>
-        <translation>%1, Zeile %2</translation>
     </message>
     <message>
         <source>This is no valid JSON: %1.</source>

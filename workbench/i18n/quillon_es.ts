@@ -1050,20 +1050,12 @@
         <translation>línea %1</translation>
     </message>
     <message>
-        <source>This is no regular file.</source>
-        <translation>No es un archivo normal.</translation>
-    </message>
-    <message>
         <source>The text is not valid in the encoding %1.</source>
         <translation>El texto no es válido en la codificación %1.</translation>
     </message>
 </context>
 <context>
     <name>DataFile</name>
-    <message>
-        <source>This is no regular file.</source>
-        <translation>No es un archivo normal.</translation>
-    </message>
     <message>
         <source>byte %1 of %2</source>
         <translation>byte %1 de %2</translation>
@@ -2070,14 +2062,6 @@
 <context>
     <name>DocumentFile</name>
     <message>
-        <source>It is not a file.</source>
-        <translation>No es un archivo.</translation>
-    </message>
-    <message>
-        <source>There is no such file.</source>
-        <translation>No existe ese archivo.</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>No se puede leer %1: %2</translation>
     </message>
@@ -2116,6 +2100,10 @@
     <message>
         <source>The file is empty.</source>
         <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>%1 is not written: it could not be read again, because more is nested in it than a file may have.</source>
+        <translation>%1 no se escribe: no se podría volver a leer, porque contiene más niveles anidados de los que admite un archivo.</translation>
     </message>
 </context>
 <context>
@@ -2726,6 +2714,21 @@
     <message>
         <source>change of %1</source>
         <translation>cambio de %1</translation>
+    </message>
+</context>
+<context>
+    <name>InputFile</name>
+    <message>
+        <source>There is no such file.</source>
+        <translation>No existe ese archivo.</translation>
+    </message>
+    <message>
+        <source>It is a folder, not a file.</source>
+        <translation>Es una carpeta, no un archivo.</translation>
+    </message>
+    <message>
+        <source>It is a device or a pipe, not a file.</source>
+        <translation>Es un dispositivo o una tubería, no un archivo.</translation>
     </message>
 </context>
 <context>
@@ -3536,18 +3539,6 @@
     <message>
         <source>schema</source>
         <translation>esquema</translation>
-    </message>
-    <message>
-        <source>This is no regular file.</source>
-        <translation>No es un archivo normal.</translation>
-    </message>
-    <message>
-        <source>line %1</source>
-        <translation>línea %1</translation>
-    </message>
-    <message>
-        <source>%1, line %2</source>
-        <translation>%1, línea %2</translation>
     </message>
     <message>
         <source>This is no valid JSON: %1.</source>

@@ -190,7 +190,8 @@ QString CodebookPaper::write(QIODevice &device) const
         const QRectF view(0, i * page.height(), page.width(), page.height());
         painter.setClipRect(view);
         QAbstractTextDocumentLayout::PaintContext context;
-        context.clip = view;
+        // What only touches the page, as the heading at the top of the next one does, is not drawn on it.
+        context.clip = view.adjusted(0, 1, 0, -1);
         context.palette.setColor(QPalette::Text, Qt::black); // the system's colours may be light on dark
         document.documentLayout()->draw(&painter, context);
         painter.restore();

@@ -15,8 +15,14 @@ constexpr qint64 SampleSize = 1 << 16;
 constexpr qsizetype SampleRows = 100;
 constexpr std::array<char, 4> candidates{',', ';', '\t', '|'};
 
-/// How often \a delimiter stands outside quotation marks, for each of the first rows of \a sample.
-QList<int> countPerRow(const QString &sample, char delimiter)
+bool canSeparate(QChar c)
+{
+    return c.unicode() < 128 && c != u'"' && c != u'\n' && c != u'\r';
+}
+
+/// How often \a delimiter stands outside quotation marks, for each of the first rows of \a sample. A last row
+/// without an end counts when the sample \a isWhole or has no other.
+QList<int> countPerRow(QStringView sample, char delimiter, bool isWhole)
 {
     QList<int> counts;
     int count = 0;
@@ -25,11 +31,11 @@ QList<int> countPerRow(const QString &sample, char delimiter)
     for (const QChar c : sample) {
         if (c == u'"')
             quoted = !quoted;
-        if (c == u'\n' && !quoted) {
+        if ((c == u'\n' || c == u'\r') && !quoted) {
             if (!blank)
                 counts.append(count);
             if (counts.size() == SampleRows)
-                break;
+                return counts;
             count = 0;
             blank = true;
             continue;
@@ -37,17 +43,18 @@ QList<int> countPerRow(const QString &sample, char delimiter)
         blank = blank && c.isSpace();
         count += !quoted && c == QLatin1Char(delimiter) ? 1 : 0;
     }
+    if (!blank && (isWhole || counts.isEmpty()))
+        counts.append(count);
     return counts;
 }
-} // namespace
 
-char CsvDialect::likeliestDelimiter(const QString &sample)
+/// The delimiter that divides most rows like the first; among equals the one that divides it most.
+char likeliestDelimiter(QStringView sample, bool isWhole)
 {
-    // The one that divides most rows like the first; among equals the one that divides it most.
     std::pair<qsizetype, int> best{0, 0};
     char likeliest = candidates.front();
     for (const char candidate : candidates) {
-        const QList<int> counts = countPerRow(sample, candidate);
+        const QList<int> counts = countPerRow(sample, candidate, isWhole);
         if (counts.isEmpty() || counts.first() == 0)
             continue;
         const std::pair<qsizetype, int> score{counts.count(counts.first()), counts.first()};
@@ -57,6 +64,34 @@ char CsvDialect::likeliestDelimiter(const QString &sample)
         }
     }
     return likeliest;
+}
+
+/// Whether most of what is beyond ASCII in \a file is whole characters of UTF-8.
+bool isMostlyUtf8(QFile &file)
+{
+    QStringDecoder decoder(QStringConverter::Utf8);
+    qsizetype characters = 0;
+    qsizetype strayBytes = 0;
+    file.seek(0);
+    while (!file.atEnd()) {
+        const QString text = decoder(file.read(SampleSize));
+        strayBytes += text.count(QChar::ReplacementCharacter);
+        characters += std::count_if(text.cbegin(), text.cend(), [](QChar c) {
+            return c.unicode() > 127 && c != QChar::ReplacementCharacter;
+        });
+    }
+    return characters > 0 && characters >= strayBytes;
+}
+} // namespace
+
+void CsvDialect::detectDelimiter(const QString &sample, bool isWhole)
+{
+    // Some spreadsheet programs say it in a line of its own.
+    constexpr auto name = "sep="_L1;
+    const qsizetype behind = name.size() + 1;
+    isNamed = sample.startsWith(name, Qt::CaseInsensitive) && sample.size() > behind
+        && (sample.at(behind) == u'\n' || sample.at(behind) == u'\r') && canSeparate(sample.at(behind - 1));
+    delimiter = isNamed ? sample.at(behind - 1).toLatin1() : likeliestDelimiter(sample, isWhole);
 }
 
 QString CsvDialect::detectEncoding(QFile &file, const QByteArray &sample)
@@ -84,8 +119,9 @@ QString CsvDialect::detectEncoding(QFile &file, const QByteArray &sample)
     file.seek(0);
     while (!file.atEnd() && !decoder.hasError())
         (void)QString(decoder(file.read(SampleSize)));
-    encoding = decoder.hasError() ? "windows-1252" : "UTF-8";
-    if (!decoder.hasError()) {
+    const bool isUtf8 = !decoder.hasError();
+    encoding = isUtf8 || isMostlyUtf8(file) ? "UTF-8" : "windows-1252";
+    if (isUtf8) {
         (void)QString(decoder("\n"));
         if (decoder.hasError())
             return tr("The file is damaged: it ends inside a character.");
@@ -105,12 +141,11 @@ QString CsvDialect::detect(QFile &file, const SourceOptions &options)
     QStringDecoder decoder(encoding.constData());
     if (!decoder.isValid())
         return tr("The encoding \"%1\" is not known.").arg(QString::fromLatin1(encoding));
-    if (options.delimiter.isNull()) {
-        delimiter = likeliestDelimiter(decoder(sample));
-    } else {
-        delimiter = options.delimiter.toLatin1();
-        if (options.delimiter.unicode() > 127 || delimiter == '"' || delimiter == '\n' || delimiter == '\r')
+    detectDelimiter(decoder(sample), sample.size() == file.size());
+    if (!options.delimiter.isNull()) {
+        if (!canSeparate(options.delimiter))
             return tr("The character \"%1\" cannot separate cells.").arg(options.delimiter);
+        delimiter = options.delimiter.toLatin1();
     }
     file.seek(0);
     return {};

@@ -14,13 +14,15 @@ struct CsvDialect {
 public:
     QByteArray encoding;
     char delimiter = ',';
+    bool isNamed = false; ///< The first line is no row: it names the delimiter, as "sep=;".
 
     /// Looks at \a file, which is open, and takes what \a options says. Returns what is wrong, empty when
     /// nothing is. A file that is no UTF-8 and has no byte order mark is taken as Windows-1252, where every
-    /// byte but a few is a letter.
+    /// byte but a few is a letter, unless most of what is beyond ASCII is whole characters of UTF-8: then it
+    /// is UTF-8 with damage.
     [[nodiscard]] QString detect(QFile &file, const SourceOptions &options);
 
 private:
     [[nodiscard]] QString detectEncoding(QFile &file, const QByteArray &sample);
-    [[nodiscard]] static char likeliestDelimiter(const QString &sample);
+    void detectDelimiter(const QString &sample, bool isWhole);
 };

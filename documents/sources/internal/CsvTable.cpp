@@ -1,10 +1,13 @@
 #include "documents/sources/internal/CsvTable.h"
 
+#include "documents/internal/InputFile.h"
 #include "documents/sources/internal/CsvDialect.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QStringDecoder>
+
+#include <algorithm>
+#include <utility>
 
 #include <csv.h>
 
@@ -13,6 +16,42 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 constexpr qint64 ChunkSize = 1 << 16;
+
+/// The lines of a text that comes in pieces. A line ends with LF, CR LF or CR.
+class Lines
+{
+public:
+    void append(const QString &text)
+    {
+        m_text.remove(0, m_start);
+        m_seen -= std::exchange(m_start, 0);
+        m_text += text;
+    }
+
+    /// The next line with its end; null when there is none that is whole. With \a atEnd no text follows, and
+    /// what is left is a line.
+    QStringView next(bool atEnd)
+    {
+        const auto *const begin = m_text.cbegin();
+        const auto *end =
+            std::find_if(begin + m_seen, m_text.cend(), [](QChar c) { return c == u'\n' || c == u'\r'; });
+        m_seen = end - begin;
+        // The LF behind a CR may be still to come.
+        const bool isWhole = end != m_text.cend() && (*end == u'\n' || end + 1 != m_text.cend());
+        if (!isWhole && (!atEnd || m_start == m_text.size()))
+            return {};
+        if (isWhole && *end == u'\r' && end[1] == u'\n')
+            ++end;
+        m_seen = std::min<qsizetype>(end - begin + 1, m_text.size());
+        const qsizetype start = std::exchange(m_start, m_seen);
+        return QStringView(m_text).sliced(start, m_seen - start);
+    }
+
+private:
+    QString m_text;
+    qsizetype m_start = 0; // Of the next line.
+    qsizetype m_seen = 0; // Before this it does not end.
+};
 
 /// The parser, fed line by line, so that every row and every error has its line.
 class RowParser
@@ -43,6 +82,9 @@ public:
             return at(m_line, parseProblem());
         return m_problem;
     }
+
+    /// Passes over a line that belongs to no row.
+    void skipLine() { ++m_line; }
 
     QString finish()
     {
@@ -115,50 +157,45 @@ QString CsvTable::place(qint64 line)
 std::optional<SourceProblem> CsvTable::read(const RowHandler &handle, qint64 mostRows)
 {
     QFile file(m_path);
-    if (const QFileInfo info(m_path); info.exists() && !info.isFile())
-        return SourceProblem{m_path, {}, tr("This is no regular file.")};
-    if (!file.open(QIODevice::ReadOnly))
-        return SourceProblem{m_path, {}, file.errorString()};
+    if (const QString problem = InputFile::open(file); !problem.isEmpty())
+        return SourceProblem{m_path, {}, problem};
     CsvDialect dialect;
     if (const QString problem = dialect.detect(file, m_options); !problem.isEmpty())
         return SourceProblem{m_path, {}, problem};
 
     QStringDecoder decoder(dialect.encoding.constData());
     RowParser parser(dialect.delimiter, handle);
-    QString text;
-    const auto problemAt = [this, &parser](const QString &problem) {
-        return SourceProblem{m_path, place(parser.problemLine()), problem};
-    };
+    Lines lines;
     const auto isEnough = [&parser, mostRows] { return mostRows >= 0 && parser.rows() >= mostRows; };
-    while (!file.atEnd() && !isEnough()) {
+    for (bool atEnd = file.atEnd(); !atEnd && !isEnough();) {
         if (m_options.progress && !m_options.progress(double(file.pos()) / double(file.size()))) {
             m_cancelled = true;
             return std::nullopt;
         }
-        const QByteArray chunk = file.read(ChunkSize);
-        text += QString(decoder(chunk));
-        if (file.atEnd())
-            text += QString(decoder(dialect.encoding.startsWith("UTF-16") ? QByteArray() : QByteArray("\n")));
+        lines.append(decoder(file.read(ChunkSize)));
+        atEnd = file.atEnd();
+        if (atEnd) // Tells a character that is not whole; a line end more is no row.
+            lines.append(decoder(dialect.encoding.startsWith("UTF-16") ? QByteArray() : QByteArray("\n")));
+        const auto isValid = [](QStringView line) { return !line.contains(QChar::ReplacementCharacter); };
         if (decoder.hasError()) {
-            const auto before =
-                QStringView(text).left(text.indexOf(QChar::ReplacementCharacter)).count(u'\n');
+            qint64 line = parser.line() + 1;
+            for (QStringView next = lines.next(true); !next.isNull() && isValid(next);
+                 next = lines.next(true))
+                ++line;
             return SourceProblem{
-                m_path, place(parser.line() + before + 1),
+                m_path, place(line),
                 tr("The text is not valid in the encoding %1.").arg(QString::fromLatin1(dialect.encoding))};
         }
-        qsizetype start = 0;
-        for (qsizetype end = 0; !isEnough() && (end = text.indexOf(u'\n', start)) >= 0; start = end + 1) {
-            const QString problem = parser.feed(QStringView(text).mid(start, end + 1 - start));
-            if (!problem.isEmpty())
-                return problemAt(problem);
+        for (QStringView line; !isEnough() && !(line = lines.next(atEnd)).isNull();) {
+            if (dialect.isNamed && parser.line() == 0)
+                parser.skipLine();
+            else if (const QString problem = parser.feed(line); !problem.isEmpty())
+                return SourceProblem{m_path, place(parser.problemLine()), problem};
         }
-        text.remove(0, start);
     }
     if (isEnough())
         return std::nullopt;
-    if (const QString problem = text.isEmpty() ? QString() : parser.feed(text); !problem.isEmpty())
-        return problemAt(problem);
     if (const QString problem = parser.finish(); !problem.isEmpty())
-        return problemAt(problem);
+        return SourceProblem{m_path, place(parser.problemLine()), problem};
     return std::nullopt;
 }

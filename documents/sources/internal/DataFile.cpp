@@ -1,6 +1,6 @@
 #include "documents/sources/internal/DataFile.h"
 
-#include <QFileInfo>
+#include "documents/internal/InputFile.h"
 
 #include <algorithm>
 
@@ -8,13 +8,9 @@ DataFile::DataFile(const QString &path, const SourceOptions &options) : m_file(p
 
 QString DataFile::open()
 {
-    const QFileInfo info(m_file.fileName());
-    if (info.exists() && !info.isFile())
-        return tr("This is no regular file.");
-    if (!m_file.open(QIODevice::ReadOnly))
-        return m_file.errorString();
+    const QString problem = InputFile::open(m_file);
     m_size = m_file.size();
-    return {};
+    return problem;
 }
 
 void DataFile::attach(readstat_parser_t *parser)

@@ -4,7 +4,6 @@
 #include "model/TDcSourceField.h"
 
 #include <QLocale>
-#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -57,13 +56,23 @@ bool FieldText::appendCategory(QString &categories, const QString &code, const Q
     return true;
 }
 
-void FieldText::appendCode(QString &codes, const QString &code)
+void CodeList::append(const QString &code)
 {
-    if (code.isEmpty() || codes.split(Constants::tab).contains(code))
+    if (code.isEmpty() || m_known.contains(code))
         return;
-    if (!codes.isEmpty())
-        codes += Constants::tab;
-    codes += code;
+    m_known.insert(code);
+    m_codes.append(code);
+}
+
+void CodeList::append(const CodeList &codes)
+{
+    for (const QString &code : codes.m_codes)
+        append(code);
+}
+
+QString CodeList::text() const
+{
+    return m_codes.join(Constants::tab);
 }
 
 void ObservedNumbers::add(double value, int decimals)

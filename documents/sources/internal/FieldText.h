@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
+#include <QStringList>
 
 #include <limits>
 
@@ -16,10 +18,22 @@ namespace FieldText
 /// each a code, a blank, a label. Line breaks and tabs in the label become blanks. Returns false and appends
 /// nothing if the code is empty or holds white space, since the layer would take it apart.
 bool appendCategory(QString &categories, const QString &code, const QString &label);
-
-/// Appends \a code to \a codes, which tabs separate, unless it is there already.
-void appendCode(QString &codes, const QString &code);
 } // namespace FieldText
+
+/// Codes in the order in which they came, each once.
+class CodeList
+{
+public:
+    /// An empty code is none.
+    void append(const QString &code);
+    void append(const CodeList &codes);
+    /// All of them, separated by tabs.
+    [[nodiscard]] QString text() const;
+
+private:
+    QStringList m_codes;
+    QSet<QString> m_known;
+};
 
 /// What the numbers of one field have in common, as far as they have been seen.
 class ObservedNumbers

@@ -66,7 +66,7 @@ void StatisticsFields::addLabel(const char *set, const readstat_value_t &value, 
     if (!FieldText::appendCategory(labels.categories, code, QString::fromUtf8(label)))
         labels.unusable.append(code);
     if (readstat_value_is_tagged_missing(value))
-        FieldText::appendCode(labels.missing, code);
+        labels.missing.append(code);
 }
 
 void StatisticsFields::addVariable(readstat_variable_t *variable, const char *labelSet)
@@ -80,9 +80,8 @@ void StatisticsFields::addVariable(readstat_variable_t *variable, const char *la
     field.storageWidth = int(std::min<size_t>(readstat_variable_get_storage_width(variable), 1U << 30U));
     const int count = readstat_variable_get_missing_ranges_count(variable);
     for (int i = 0; i < count; ++i) {
-        FieldText::appendCode(field.missing,
-                              missingText(readstat_variable_get_missing_range_lo(variable, i),
-                                          readstat_variable_get_missing_range_hi(variable, i)));
+        field.missing.append(missingText(readstat_variable_get_missing_range_lo(variable, i),
+                                         readstat_variable_get_missing_range_hi(variable, i)));
     }
     m_fields.push_back(std::move(field));
 }
@@ -166,7 +165,7 @@ void StatisticsFields::finish(SourceFields &result, const QString &file, const Q
         item->label = field.label;
         item->relativePosition = ++position;
         item->record = record;
-        item->missing = field.missing;
+        CodeList missing = field.missing;
         if (isString(field.type)) {
             item->setFieldType(Constants::typeString);
             item->size = stringSize(field);
@@ -175,8 +174,7 @@ void StatisticsFields::finish(SourceFields &result, const QString &file, const Q
         }
         if (const Labels *labels = labelsOf(field)) {
             item->categories = labels->categories;
-            for (const QString &code : labels->missing.split(Constants::tab))
-                FieldText::appendCode(item->missing, code);
+            missing.append(labels->missing);
             if (!labels->unusable.isEmpty()) {
                 result.notes.append({file, tr("variable %1").arg(field.name),
                                      tr("These codes are empty or hold blanks and are left out of the "
@@ -186,8 +184,9 @@ void StatisticsFields::finish(SourceFields &result, const QString &file, const Q
         }
         for (char letter = 'a'; letter <= 'z'; ++letter) {
             if (field.tags & (1U << unsigned(letter - 'a')))
-                FieldText::appendCode(item->missing, taggedCode(letter));
+                missing.append(taggedCode(letter));
         }
+        item->missing = missing.text();
         result.items->append(std::move(item));
     }
 }

@@ -52,14 +52,14 @@ private:
         readstat_type_t type = READSTAT_TYPE_DOUBLE;
         NumberFormat format;
         int storageWidth = 0;
-        QString missing;
+        CodeList missing;
         ObservedNumbers numbers;
         qsizetype observedLength = 0;
         quint32 tags = 0; ///< Missing values ".a" to ".z" that occur, one bit each.
     };
     struct Labels {
         QString categories;
-        QString missing; ///< Labelled codes that are missing by their nature.
+        CodeList missing; ///< Labelled codes that are missing by their nature.
         QStringList unusable; ///< Codes that a category text cannot hold.
     };
 

@@ -1,10 +1,11 @@
 #include "documents/sources/internal/TableSchema.h"
 
 #include "common/Constants.h"
+#include "documents/internal/InputFile.h"
 #include "documents/sources/internal/FieldText.h"
+#include "documents/TextPosition.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -33,6 +34,23 @@ QString codeOf(const QJsonValue &entry)
 {
     return text(entry.isObject() ? entry[u"value"_s] : entry);
 }
+
+/// Which values stand for missing ones.
+struct MissingValues {
+    QString codes;
+    QList<QJsonValue> labelled; ///< These are categories as well.
+
+    explicit MissingValues(const QJsonArray &entries)
+    {
+        CodeList list;
+        for (const auto &entry : entries) {
+            list.append(codeOf(entry));
+            if (!entry[u"label"_s].toString().isEmpty())
+                labelled.append(entry);
+        }
+        codes = list.text();
+    }
+};
 
 /// Reads one file with its schemas; the first thing that is wrong ends it.
 class Reader
@@ -64,22 +82,17 @@ private:
     QJsonObject load(const QString &path)
     {
         const QString place = path == m_path ? QString() : QFileInfo(path).fileName();
-        QFile file(path);
-        if (const QFileInfo info(path); info.exists() && !info.isFile()) {
-            fail(place, tr("This is no regular file."));
+        QString problem;
+        const QByteArray bytes = InputFile::read(path, &problem);
+        if (!problem.isEmpty()) {
+            fail(place, problem);
             return {};
         }
-        if (!file.open(QIODevice::ReadOnly)) {
-            fail(place, file.errorString());
-            return {};
-        }
-        const QByteArray bytes = file.readAll();
         QJsonParseError error{};
         const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
         if (document.isNull()) {
-            const qint64 line = bytes.left(error.offset).count('\n') + 1;
-            fail(place.isEmpty() ? tr("line %1").arg(line)
-                                 : tr("%1, line %2").arg(place, QString::number(line)),
+            const QString position = TextPosition::of(bytes, error).toString();
+            fail(place.isEmpty() ? position : place + u", "_s + position,
                  tr("This is no valid JSON: %1.").arg(error.errorString()));
         } else if (!document.isObject()) {
             fail(place, tr("The file holds no JSON object."));
@@ -128,6 +141,7 @@ private:
         const QJsonValue fields = schema[u"fields"_s];
         if (!fields.isArray())
             return fail(place, tr("A table schema must list its fields."));
+        const MissingValues missing(schema[u"missingValues"_s].toArray());
         int position = 0;
         const QJsonArray list = fields.toArray();
         for (const auto &field : list) {
@@ -135,12 +149,11 @@ private:
             if (name.isEmpty())
                 return fail(tr("%1, field %2").arg(place, QString::number(position + 1)),
                             tr("A field must have a name."));
-            readField(field, schema[u"missingValues"_s], record, ++position,
-                      tr("%1, field %2").arg(place, name));
+            readField(field, missing, record, ++position, tr("%1, field %2").arg(place, name));
         }
     }
 
-    void readField(const QJsonValue &json, const QJsonValue &schemaMissing, const QString &record,
+    void readField(const QJsonValue &json, const MissingValues &missingInSchema, const QString &record,
                    int position, const QString &place)
     {
         auto field = std::make_unique<TDcSourceField>();
@@ -167,12 +180,10 @@ private:
         std::for_each(categories.begin(), categories.end(), addCategory);
         // What the field says itself stands instead of what the schema says for all.
         const QJsonValue ownMissing = json[u"missingValues"_s];
-        const QJsonArray missing = (ownMissing.isArray() ? ownMissing : schemaMissing).toArray();
-        for (const auto &entry : missing) {
-            FieldText::appendCode(field->missing, codeOf(entry));
-            if (!entry[u"label"_s].toString().isEmpty())
-                addCategory(entry);
-        }
+        const MissingValues missing =
+            ownMissing.isArray() ? MissingValues(ownMissing.toArray()) : missingInSchema;
+        field->missing = missing.codes;
+        std::for_each(missing.labelled.begin(), missing.labelled.end(), addCategory);
         m_result.items->append(std::move(field));
     }
 
