@@ -1,6 +1,7 @@
 #include "cli/Check.h"
 
 #include "cli/DocumentReader.h"
+#include "cli/Input.h"
 #include "cli/Output.h"
 #include "cli/Progress.h"
 #include "cli/Text.h"
@@ -31,17 +32,17 @@ QLatin1StringView keyword(Severity severity)
     return "note"_L1;
 }
 
-void printText(const QString &path, const QList<Finding> &findings, Cli::Output &output)
+void printText(const QString &name, const QList<Finding> &findings, Cli::Output &output)
 {
     for (const Finding &finding : findings) {
-        const QString place = finding.place.isEmpty() ? path : finding.place;
+        const QString place = finding.place.isEmpty() ? name : finding.place;
         output.line(u"%1: %2: %3 [%4]"_s.arg(output.strong(Cli::Text::printable(place)),
                                              DictionaryCheck::severityName(finding.severity).toLower(),
                                              Cli::Text::printable(finding.message), finding.rule));
         if (!finding.suggestion.isEmpty())
             output.line(u"    "_s + Cli::Text::printable(finding.suggestion));
     }
-    output.line(Cli::Text::printable(path) + u": "_s + DictionaryCheck::summary(findings));
+    output.line(Cli::Text::printable(name) + u": "_s + DictionaryCheck::summary(findings));
 }
 
 void printJson(const QString &path, const QList<Finding> &findings, Cli::Output &output)
@@ -69,7 +70,7 @@ void addCheck(CLI::App &app, Output &output, int &status)
     };
     const auto options = std::make_shared<Options>();
     CLI::App *verb = app.add_subcommand("check", "Look for what is wrong in a dictionary");
-    verb->add_option("FILE", options->file, "The dictionary document")->required();
+    verb->add_option("FILE", options->file, Input::optionText)->required();
     verb->add_flag("--json", options->json, "Print JSON for other programs");
     verb->footer("Examples:\n"
                  "  quillon check survey.mvdb\n"
@@ -87,13 +88,13 @@ bool check(const QString &path, CheckForm form, Output &output)
     const std::unique_ptr<DictionaryFile> file = openDictionary(path);
     QList<Finding> findings;
     {
-        const Progress progress(u"Checking "_s + path);
+        const Progress progress(u"Checking "_s + Input::nameOf(path));
         findings = DictionaryCheck::check(file->root());
     }
     if (form == CheckForm::Json)
         printJson(path, findings, output);
     else
-        printText(path, findings, output);
+        printText(Input::nameOf(path), findings, output);
     return findings.isEmpty();
 }
 } // namespace Cli

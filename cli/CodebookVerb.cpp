@@ -2,6 +2,7 @@
 
 #include "cli/DocumentReader.h"
 #include "cli/Failure.h"
+#include "cli/Input.h"
 #include "cli/Output.h"
 #include "cli/Progress.h"
 #include "cli/Target.h"
@@ -13,7 +14,6 @@
 #include <QBuffer>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QSaveFile>
 
 #include <memory>
 
@@ -47,7 +47,7 @@ void addCodebook(CLI::App &app, Output &output)
     };
     const auto options = std::make_shared<Options>();
     CLI::App *verb = app.add_subcommand("codebook", "Write a description of a dictionary for people");
-    verb->add_option("FILE", options->in, "The dictionary document")->required();
+    verb->add_option("FILE", options->in, Input::optionText)->required();
     verb->add_option("-o,--output", options->out, "The page (.html) or PDF document (.pdf) to write")
         ->type_name("OUT")
         ->required();

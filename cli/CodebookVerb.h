@@ -16,7 +16,6 @@ enum class Overwrite;
 void addCodebook(CLI::App &app, Output &output);
 
 /// Writes a codebook of the dictionary in the file at \a in to \a out, whose ending says whether it becomes a
-/// page
-/// (.html) or a PDF document (.pdf). Throws Failure; then a file at \a out is as it was.
+/// page (.html) or a PDF document (.pdf). Throws Failure; then a file at \a out is as it was.
 void codebook(const QString &in, const QString &out, Overwrite overwrite, Output &output);
 } // namespace Cli

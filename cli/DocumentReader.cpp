@@ -2,12 +2,11 @@
 
 #include "business/ProcessDictionaryBusiness.h"
 #include "cli/Failure.h"
+#include "cli/Input.h"
 #include "cli/Progress.h"
 #include "documents/DictionaryFile.h"
 #include "model/TDcEntity.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -22,19 +21,6 @@ namespace
 constexpr auto entitiesKey = "entities"_L1;
 constexpr auto rootKey = "root"_L1;
 constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
-
-QByteArray readFile(const QString &path)
-{
-    if (QFileInfo(path).isDir())
-        throw Failure(u"%1: is a directory, not a file"_s.arg(path));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw Failure(u"%1: cannot be opened: %2"_s.arg(path, file.errorString()));
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        throw Failure(u"%1: cannot be read: %2"_s.arg(path, file.errorString()));
-    return bytes;
-}
 
 /// Where the text that \a error complains about begins. Qt tells where its parser stood: for some errors at
 /// that place, for the others behind it, unless the text just ended there.
@@ -56,15 +42,15 @@ qsizetype errorOffset(const QByteArray &text, const QJsonParseError &error)
     return atEnd ? text.size() : std::max(0, error.offset - 1);
 }
 
-QJsonDocument parse(const QString &path, const QByteArray &text)
+QJsonDocument parse(const QString &name, const QByteArray &text)
 {
     if (text.trimmed().isEmpty())
-        throw Failure(u"%1: is empty"_s.arg(path));
+        throw Failure(u"%1: is empty"_s.arg(name));
     QJsonParseError error;
     QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError) {
         const auto [line, column] = Cli::textPosition(text, errorOffset(text, error));
-        throw Failure(u"%1:%2:%3: is not JSON: %4"_s.arg(path, QString::number(line), QString::number(column),
+        throw Failure(u"%1:%2:%3: is not JSON: %4"_s.arg(name, QString::number(line), QString::number(column),
                                                          error.errorString()));
     }
     return document;
@@ -73,6 +59,29 @@ QJsonDocument parse(const QString &path, const QByteArray &text)
 bool holdsObjects(const QJsonValue &value)
 {
     return value.isArray() || value.isObject();
+}
+
+/// The dictionary document that \a text is; without what of it is not kept.
+Cli::DictionaryDocument documentOf(const QString &name, const QByteArray &text)
+{
+    const QJsonObject content = parse(name, text).object();
+    if (content.contains("database"_L1) && content.value("type"_L1) == "config"_L1)
+        throw Failure(u"%1: is a run configuration, not a dictionary document"_s.arg(name));
+    if (Cli::isEntity(content))
+        return {content, {}, {}};
+    // The layer looks at "entities" first and at "root" only without it.
+    const QString key = content.contains(entitiesKey) ? entitiesKey : rootKey;
+    if (!holdsObjects(content.value(key)))
+        throw Failure(
+            u"%1: is not a dictionary document: neither \"entities\" nor \"root\" nor an entity was found"_s
+                .arg(name));
+    return {content, key, {}};
+}
+
+/// What is read has no file to go back to: it may have come through a pipe.
+bool load(DictionaryFile &file, const QByteArray &text)
+{
+    return file.restore({.content = text, .path = {}, .digest = {}, .losses = {}});
 }
 } // namespace
 
@@ -88,19 +97,10 @@ bool isEntity(const QJsonObject &object)
 
 DictionaryDocument readDocument(const QString &path)
 {
-    const QByteArray text = readFile(path);
-    const QJsonObject content = parse(path, text).object();
-    if (content.contains("database"_L1) && content.value("type"_L1) == "config"_L1)
-        throw Failure(u"%1: is a run configuration, not a dictionary document"_s.arg(path));
-    if (isEntity(content))
-        return {content, {}, DocumentFile::lossesOf(text)};
-    // The layer looks at "entities" first and at "root" only without it.
-    const QString key = content.contains(entitiesKey) ? entitiesKey : rootKey;
-    if (!holdsObjects(content.value(key)))
-        throw Failure(
-            u"%1: is not a dictionary document: neither \"entities\" nor \"root\" nor an entity was found"_s
-                .arg(path));
-    return {content, key, DocumentFile::lossesOf(text)};
+    const QByteArray text = Input::readAll(path);
+    DictionaryDocument document = documentOf(Input::nameOf(path), text);
+    document.unkept = DocumentFile::lossesOf(text);
+    return document;
 }
 
 Entities readEntities(const DictionaryDocument &document)
@@ -130,11 +130,35 @@ QJsonObject writeEntities(const Entities &entities, const DictionaryDocument &or
 
 std::unique_ptr<DictionaryFile> openDictionary(const QString &path)
 {
-    const Progress progress(u"Opening "_s + path);
+    const QString name = Input::nameOf(path);
+    const Progress progress(u"Opening "_s + name);
     auto file = std::make_unique<DictionaryFile>();
-    if (!file->open(path))
-        throw Failure(file->errorText());
+    if (!load(*file, Input::readAll(path)))
+        throw Failure(name + u": "_s + file->errorText());
     return file;
+}
+
+Entities openEntities(const QString &path)
+{
+    const QString name = Input::nameOf(path);
+    const Progress progress(u"Opening "_s + name);
+    const QByteArray text = Input::readAll(path);
+    Entities entities;
+    DictionaryFile file;
+    if (load(file, text)) {
+        entities.push_back(file.takeRoot());
+        return entities;
+    }
+    // None, or several: then each is opened as if it stood alone in its list.
+    const DictionaryDocument document = documentOf(name, text);
+    const QJsonArray roots = document.content.value(document.rootKey).toArray();
+    for (const QJsonValue &root : roots) {
+        const QJsonObject alone{{document.rootKey, QJsonArray{root}}};
+        if (!load(file, QJsonDocument(alone).toJson(QJsonDocument::Compact)))
+            throw Failure(name + u": "_s + file.errorText());
+        entities.push_back(file.takeRoot());
+    }
+    return entities;
 }
 
 TextPosition textPosition(const QByteArray &text, qsizetype offset)

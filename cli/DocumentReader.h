@@ -27,19 +27,22 @@ struct DictionaryDocument {
 /// or a name above further entities.
 [[nodiscard]] bool isEntity(const QJsonObject &object);
 
-/// Reads the dictionary document in the file at \a path. Throws Failure when it cannot be read, is not JSON
-/// (the message tells line and column) or is no dictionary.
+/// Reads the dictionary document at \a path, see Input::readAll(). Throws Failure when it cannot be read, is
+/// not JSON (the message tells line and column) or is no dictionary.
 [[nodiscard]] DictionaryDocument readDocument(const QString &path);
 
-/// The document's entities, read through the layer.
+/// The document's entities, read through the layer, which drops some of what the document says.
 [[nodiscard]] Entities readEntities(const DictionaryDocument &document);
 
 /// The document that holds \a entities where \a original holds its own, written through the layer.
 [[nodiscard]] QJsonObject writeEntities(const Entities &entities, const DictionaryDocument &original);
 
-/// Opens the dictionary file at \a path so that nothing in it gets lost, and reads the whole tree. Throws
-/// Failure, also when the file has more than one root.
+/// Opens the dictionary document at \a path so that nothing in it gets lost, and reads the whole tree. Throws
+/// Failure, also when the document has more than one root.
 [[nodiscard]] std::unique_ptr<DictionaryFile> openDictionary(const QString &path);
+
+/// The same for a document with any number of roots.
+[[nodiscard]] Entities openEntities(const QString &path);
 
 /// A place in a text file; both count from 1. A column is a character, however many bytes it takes.
 struct TextPosition {

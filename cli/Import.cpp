@@ -7,7 +7,7 @@
 #include "cli/Progress.h"
 #include "cli/Target.h"
 #include "cli/Text.h"
-#include "common/Validate.h"
+#include "documents/checks/DictionaryCheck.h"
 #include "documents/DictionaryFile.h"
 #include "documents/sources/SourceReader.h"
 #include "model/TDcEntity.h"
@@ -15,6 +15,7 @@
 #include <CLI/CLI.hpp>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
@@ -31,9 +32,31 @@ constexpr auto example =
     "HH_AGE is split into name and alias, missing and not-applicable codes lie beside the\n"
     "range. The types of a text file's columns are guessed from its values.";
 
+/// The record that stands for all of them.
+constexpr auto everyRecord = "*"_L1;
+
 void note(const QString &text)
 {
     std::cerr << "quillon: " << Cli::Text::printable(text).toStdString() << '\n';
+}
+
+/// Refuses an option that says nothing about files but those that end in one of \a suffixes.
+void requireKind(const QString &path, const QString &option, const QStringList &suffixes)
+{
+    if (!suffixes.contains(QFileInfo(path).suffix().toLower()))
+        throw Cli::Failure(
+            u"%1: --%2 is only for files ending in .%3"_s.arg(path, option, suffixes.join(u", ."_s)));
+}
+
+void checkOptions(const Cli::ImportOptions &options)
+{
+    const QStringList texts{u"csv"_s, u"tsv"_s, u"tab"_s, u"txt"_s};
+    if (!options.source.catalog.isEmpty())
+        requireKind(options.dataFile, u"catalog"_s, {u"sas7bdat"_s, u"xpt"_s});
+    if (!options.source.delimiter.isNull())
+        requireKind(options.dataFile, u"delimiter"_s, texts);
+    if (!options.source.header)
+        requireKind(options.dataFile, u"no-header"_s, texts);
 }
 
 QStringList messages(const QList<SourceProblem> &problems)
@@ -83,9 +106,14 @@ std::unique_ptr<TDcEntity> newEntity(const Cli::ImportOptions &options)
     auto entity = std::make_unique<TDcEntity>();
     entity->setName(options.entity.isEmpty() ? QFileInfo(options.dataFile).completeBaseName()
                                              : options.entity);
-    if (!Validate().validateName(entity->getName()))
-        throw Cli::Failure(u"\"%1\" is no name for an entity: it must begin with a letter or an underscore"
-                           " (--entity gives another)"_s.arg(entity->getName()));
+    // What a check would call an error right away; all there is to check yet is the name.
+    const QList<Finding> findings = DictionaryCheck::check(entity.get());
+    const auto error = std::find_if(findings.cbegin(), findings.cend(), [](const Finding &finding) {
+        return finding.severity == Severity::Error;
+    });
+    if (error != findings.cend())
+        throw Cli::Failure(u"the entity cannot be called \"%1\": %2 %3 (--entity gives another name)"_s.arg(
+            entity->getName(), error->message, error->suggestion));
     return entity;
 }
 } // namespace
@@ -150,6 +178,7 @@ void import(const ImportOptions &options, Output &output)
 {
     checkTarget(options.dataFile, options.dictionary,
                 options.overwrite ? Overwrite::Allowed : Overwrite::Never);
+    checkOptions(options);
     std::unique_ptr<TDcEntity> entity = newEntity(options);
     const SourceFields fields = readFields(options);
     for (const QString &message : messages(fields.notes))
@@ -162,7 +191,9 @@ void import(const ImportOptions &options, Output &output)
         drop.keepNamesWhole();
     const QStringList renamed = run(drop, options);
     if (entity->getVariables()->isEmpty())
-        throw Failure(u"%1: there are no fields of a record \"%2\""_s.arg(options.dataFile, options.record));
+        throw Failure(options.record == everyRecord ? u"%1: there are no fields"_s.arg(options.dataFile)
+                                                    : u"%1: there are no fields of a record \"%2\""_s.arg(
+                                                        options.dataFile, options.record));
     for (const QString &message : renamed)
         note(message);
 

@@ -1,45 +1,18 @@
 #include "cli/OtherKeys.h"
 
 #include "cli/DocumentReader.h"
+#include "cli/ObjectKind.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::Literals::StringLiterals;
-using Cli::Difference;
+using Cli::ObjectKind;
 
 namespace
 {
-/// A kind of object in a document: the keys that are known and, of these, the ones that hold further objects.
-struct Kind {
-    struct Part {
-        QLatin1StringView key;
-        const Kind *kind;
-    };
-    std::array<QLatin1StringView, 12> values = {};
-    std::array<Part, 3> parts = {};
-};
-
-constexpr Kind rangeKind{.values = {"max"_L1, "min"_L1}};
-constexpr Kind valueLabelKind{.values = {"label"_L1, "value"_L1}};
-constexpr Kind layoutKind{
-    .values = {"decimals"_L1, "field"_L1, "length"_L1, "lookup"_L1, "record"_L1, "start"_L1},
-    .parts = {{{"range"_L1, &rangeKind}}}};
-constexpr Kind variableKind{.values = {"alias"_L1, "documentation"_L1, "fileName"_L1, "group"_L1, "label"_L1,
-                                       "local"_L1, "missing"_L1, "name"_L1, "notapp"_L1, "size"_L1, "tag"_L1,
-                                       "type"_L1},
-                            .parts = {{{"metadata"_L1, &layoutKind}, {"valueLabels"_L1, &valueLabelKind}}}};
-extern const Kind entityKind;
-const Kind entityKind{
-    .values = {"alias"_L1, "codeVar"_L1, "documentation"_L1, "label"_L1, "labelVar"_L1, "name"_L1,
-               "selectable"_L1, "virtual"_L1, "weightVar"_L1, "weigthVar"_L1},
-    .parts = {{{"entities"_L1, &entityKind}, {"root"_L1, &entityKind}, {"variables"_L1, &variableKind}}}};
-
-constexpr Kind frameKind{.parts = {{{"entities"_L1, &entityKind}, {"root"_L1, &entityKind}}}};
-
 /// What a person calls an object in a list: its name, its code, its bounds, or its place.
 QString titleOf(const QJsonObject &object, qsizetype index)
 {
@@ -52,54 +25,123 @@ QString titleOf(const QJsonObject &object, qsizetype index)
     return name.isEmpty() ? u"[%1]"_s.arg(index) : name;
 }
 
+/// Whether \a value is more than one value; the objects hold none of such under a key that is for one.
+bool isCompound(const QJsonValue &value)
+{
+    return value.isArray() || value.isObject();
+}
+
+/// Whether the layer writes \a value where the objects hold nothing.
+bool standsForNothing(const QString &key, const QJsonValue &value)
+{
+    return (key == "type"_L1 && value == "integer"_L1) || (key == "size"_L1 && value == 1);
+}
+
+/// Whether two values of a known key say the same, given that the objects hold the same: 7 and "7" do, as a
+/// label, and so do "" and no key at all.
+bool sayTheSame(const QString &key, const QJsonValue &before, const QJsonValue &after)
+{
+    const auto nothing = [&key](const QJsonValue &value) {
+        return Cli::saysNothing(key, value) || standsForNothing(key, value);
+    };
+    if (before == after || (nothing(before) && nothing(after)))
+        return true;
+    if (isCompound(before) || isCompound(after))
+        return false;
+    const QVariant left = before.toVariant();
+    const QVariant right = after.toVariant();
+    return before.isBool() || after.isBool() ? left.toBool() == right.toBool()
+                                             : left.toString() == right.toString();
+}
+
+/// \a object with its keys as they are written. Beside the written spelling the other one is left: there it
+/// counts for nothing.
+QJsonObject spelt(QJsonObject object, const ObjectKind &kind)
+{
+    if (!kind.partOf(u"root"_s))
+        return object;
+    for (const QString &key : {u"root"_s, u"weigthVar"_s}) {
+        const QString written = Cli::writtenSpelling(key);
+        if (kind.knows(key) && object.contains(key) && !object.contains(written))
+            object.insert(written, object.take(key));
+    }
+    return object;
+}
+
 class Comparison
 {
 public:
-    void objects(const QJsonObject &before, const QJsonObject &after, const Kind &kind, const QString &place)
+    void objects(const QJsonObject &asBefore, const QJsonObject &asAfter, const ObjectKind &kind,
+                 const QString &place)
     {
-        for (auto entry = before.begin(); entry != before.end(); ++entry)
-            values(entry.key(), *entry, after.value(entry.key()), kind, place);
+        const QJsonObject before = spelt(asBefore, kind);
+        const QJsonObject after = spelt(asAfter, kind);
+        const auto holdsObjects = [&kind](const QString &key) {
+            return key != "root"_L1 && kind.partOf(key); // It is left beside "entities" alone.
+        };
+        for (auto entry = before.begin(); entry != before.end(); ++entry) {
+            if (!holdsObjects(entry.key()))
+                values(entry.key(), *entry, after.value(entry.key()), kind, place);
+        }
         for (auto entry = after.begin(); entry != after.end(); ++entry) {
-            if (!before.contains(entry.key()))
+            if (!holdsObjects(entry.key()) && !before.contains(entry.key()))
                 values(entry.key(), QJsonValue::Undefined, *entry, kind, place);
         }
         for (const auto &[key, part] : kind.parts) {
-            if (part == &layoutKind)
-                objects(before.value(key).toObject(), after.value(key).toObject(), *part, place);
-            else if (part)
-                lists(elements(before, key), elements(after, key), *part, place);
+            if (part && holdsObjects(key))
+                parts(key, before.value(key), after.value(key), *part, place);
         }
     }
 
-    QList<Difference> found;
+    Cli::OtherDifferences found;
 
 private:
-    void values(const QString &key, const QJsonValue &before, const QJsonValue &after, const Kind &kind,
+    void values(const QString &key, const QJsonValue &before, const QJsonValue &after, const ObjectKind &kind,
                 const QString &place)
     {
-        const auto isKey = [&key](QLatin1StringView known) { return known == key; };
-        const bool known = std::any_of(kind.values.begin(), kind.values.end(), isKey)
-            || std::any_of(kind.parts.begin(), kind.parts.end(),
-                           [&isKey](const Kind::Part &part) { return part.kind && isKey(part.key); });
-        if (!known && before != after)
-            found.append({place, key, before, after});
+        if (kind.knows(key))
+            known(key, before, after, place);
+        else if (before != after)
+            found.keys.append({place, key, before, after});
     }
 
-    /// An object that stands alone is a list of one. The children stand under "root" where there is no
-    /// "entities".
-    static QJsonArray elements(const QJsonObject &object, QLatin1StringView key)
+    void known(const QString &key, const QJsonValue &before, const QJsonValue &after, const QString &place)
     {
-        if (key == "root"_L1)
-            return {};
-        const bool underRoot = key == "entities"_L1 && !object.contains(key);
-        const QJsonValue value = object.value(underRoot ? "root"_L1 : key);
-        return value.isObject() ? QJsonArray{value} : value.toArray();
+        if (!sayTheSame(key, before, after))
+            found.values.append({place, key, before, after});
     }
 
-    void lists(const QJsonArray &before, const QJsonArray &after, const Kind &kind, const QString &place)
+    void parts(const QString &key, const QJsonValue &before, const QJsonValue &after, const ObjectKind &kind,
+               const QString &place)
+    {
+        const bool isLayout = &kind == &Cli::layoutKind;
+        const auto fits = [isLayout](const QJsonValue &value) {
+            return value.isNull() || value.isUndefined() || value.isObject()
+                || (value.isArray() && !isLayout);
+        };
+        if (!fits(before) || !fits(after))
+            known(key, before, after, place);
+        else if (isLayout)
+            objects(before.toObject(), after.toObject(), kind, place);
+        else
+            lists(key, elements(before), elements(after), kind, place);
+    }
+
+    /// An object that stands alone is a list of one.
+    static QJsonArray elements(const QJsonValue &value)
+    {
+        return value.isObject() && !value.toObject().isEmpty() ? QJsonArray{value} : value.toArray();
+    }
+
+    void lists(const QString &key, const QJsonArray &before, const QJsonArray &after, const ObjectKind &kind,
+               const QString &place)
     {
         const qsizetype count = std::min(before.size(), after.size());
         for (qsizetype i = 0; i < count; ++i) {
+            if (!before.at(i).isObject() || !after.at(i).isObject()) {
+                known(u"%1[%2]"_s.arg(key).arg(i), before.at(i), after.at(i), place);
+                continue;
+            }
             const QJsonObject object = after.at(i).toObject();
             const QString title = titleOf(object, i);
             const auto separator = place.isEmpty() ? ""_L1 : title.startsWith(u'[') ? " "_L1 : "/"_L1;
@@ -117,7 +159,7 @@ QJsonObject framed(const QJsonDocument &document)
 }
 } // namespace
 
-QList<Difference> Cli::otherDifferences(const QByteArray &before, const QByteArray &after)
+Cli::OtherDifferences Cli::otherDifferences(const QByteArray &before, const QByteArray &after)
 {
     Comparison comparison;
     comparison.objects(framed(QJsonDocument::fromJson(before)), framed(QJsonDocument::fromJson(after)),

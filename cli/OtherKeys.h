@@ -4,8 +4,17 @@
 
 namespace Cli
 {
-/// What differs between two dictionary documents in keys that the layer does not know. Entities, variables,
-/// ranges and value labels must be the same ones in both, in the same order. An undefined value stands for a
-/// missing key.
-[[nodiscard]] QList<Difference> otherDifferences(const QByteArray &before, const QByteArray &after);
+/// What differs between two dictionary documents and cannot be seen in the objects that are read from them.
+/// An undefined value stands for a missing key.
+struct OtherDifferences {
+    QList<Difference> keys; ///< Keys that are not known.
+    QList<Difference>
+        values; ///< Known keys whose values are not what can stand there, such as a list for a label.
+
+    [[nodiscard]] bool isEmpty() const { return keys.isEmpty() && values.isEmpty(); }
+};
+
+/// Compares two documents whose entities, variables, ranges and value labels are the same ones, in the same
+/// order, with the same properties.
+[[nodiscard]] OtherDifferences otherDifferences(const QByteArray &before, const QByteArray &after);
 } // namespace Cli

@@ -1,13 +1,12 @@
 #include "cli/RoundTrip.h"
 
 #include "cli/Failure.h"
+#include "cli/ObjectKind.h"
 #include "model/TDcEntity.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,14 +21,9 @@ struct Step {
     const Step *before = nullptr;
     QString key = {};
     qsizetype index = -1; ///< In a list; -1 for what is in none.
+    const Cli::ObjectKind *kind = nullptr; ///< Of the object or objects there; null when they are not known.
     const QJsonObject *object = nullptr; ///< The entity or variable that the step leads to.
 };
-
-/// Objects under these keys have names of their own.
-bool holdsNamed(const QString &key)
-{
-    return key == "entities"_L1 || key == "root"_L1 || key == "variables"_L1;
-}
 
 QString segment(const Step &step)
 {
@@ -46,47 +40,11 @@ QString path(const Step *from, const Step *to)
     return segments.join(u'/');
 }
 
-/// The key under which \a after holds what \a before holds under \a key: two keys are read under one spelling
-/// and written under another.
+/// The key under which \a after holds what \a before holds under \a key.
 QString keyAfter(const QString &key, const QJsonObject &before, const QJsonObject &after)
 {
-    constexpr std::pair<QLatin1StringView, QLatin1StringView> spellings[] = {
-        {"root"_L1, "entities"_L1}, {"weigthVar"_L1, "weightVar"_L1}};
-    for (const auto &[read, written] : spellings) {
-        if (key == read && !after.contains(read) && !before.contains(written))
-            return written;
-    }
-    return key;
-}
-
-/// A known key without a value says what a missing key says.
-bool saysNothing(const QString &key, const QJsonValue &value)
-{
-    constexpr QLatin1StringView leftOutWhenEmpty[] = {
-        "alias"_L1, "codeVar"_L1,     "decimals"_L1,  "documentation"_L1, "entities"_L1, "field"_L1,
-        "group"_L1, "label"_L1,       "labelVar"_L1,  "length"_L1,        "lookup"_L1,   "name"_L1,
-        "range"_L1, "record"_L1,      "root"_L1,      "size"_L1,          "start"_L1,    "tag"_L1,
-        "value"_L1, "valueLabels"_L1, "variables"_L1, "weightVar"_L1,     "weigthVar"_L1};
-    if (key == "start"_L1 && value == 1)
-        return true; // The first position is where a variable without a start stands.
-    const bool known = std::find(std::begin(leftOutWhenEmpty), std::end(leftOutWhenEmpty), key)
-        != std::end(leftOutWhenEmpty);
-    switch (value.type()) {
-    case QJsonValue::Null:
-        return known;
-    case QJsonValue::Bool:
-        return known && !value.toBool();
-    case QJsonValue::Double:
-        return known && value.toDouble() == 0;
-    case QJsonValue::String:
-        return known && value.toString().isEmpty();
-    case QJsonValue::Array:
-        return known && value.toArray().isEmpty();
-    case QJsonValue::Object:
-        return known && value.toObject().isEmpty();
-    default:
-        return false;
-    }
+    const QString written = Cli::writtenSpelling(key);
+    return after.contains(key) || before.contains(written) ? key : written;
 }
 
 /// \a value as JSON, cut where it gets long.
@@ -103,11 +61,12 @@ public:
     void objects(const QJsonObject &before, const QJsonObject &after, const Step &at)
     {
         for (auto entry = before.begin(); entry != before.end(); ++entry) {
-            const Step step{.before = &at, .key = entry.key()};
+            const Step step{
+                .before = &at, .key = entry.key(), .kind = at.kind ? at.kind->partOf(entry.key()) : nullptr};
             const QJsonValue written = after.value(keyAfter(entry.key(), before, after));
             if (!written.isUndefined())
                 values(*entry, written, step);
-            else if (!saysNothing(entry.key(), *entry))
+            else if (!at.kind || !at.kind->knows(entry.key()) || !Cli::saysNothing(entry.key(), *entry))
                 add(*entry, written, step);
         }
     }
@@ -130,14 +89,14 @@ private:
     void lists(const QJsonArray &before, const QJsonArray &after, const Step &at)
     {
         for (qsizetype i = 0; i < before.size(); ++i) {
-            const Step step{.before = at.before, .key = at.key, .index = i};
+            const Step step{.before = at.before, .key = at.key, .index = i, .kind = at.kind};
             values(before.at(i), after.size() > i ? after.at(i) : QJsonValue(QJsonValue::Undefined), step);
         }
     }
 
     void descend(const QJsonObject &before, const QJsonObject &after, Step at)
     {
-        if (holdsNamed(at.key))
+        if (at.kind && at.kind->named)
             at.object = &before;
         objects(before, after, at);
     }
@@ -171,7 +130,8 @@ QList<Difference> differences(const QJsonObject &before, const QJsonObject &afte
 {
     Comparison comparison;
     // The document may be an entity itself; its name then says where a difference is.
-    comparison.objects(before, after, {.object = &before});
+    comparison.objects(before, after,
+                       {.kind = isEntity(before) ? &entityKind : &frameKind, .object = &before});
     return comparison.found;
 }
 

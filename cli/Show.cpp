@@ -2,9 +2,9 @@
 
 #include "cli/DocumentReader.h"
 #include "cli/Failure.h"
+#include "cli/Input.h"
 #include "cli/NearMatches.h"
 #include "cli/Output.h"
-#include "cli/Progress.h"
 #include "cli/ShowJson.h"
 #include "cli/ShowText.h"
 #include "model/PreOrder.h"
@@ -19,12 +19,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-Cli::Entities read(const QString &path)
-{
-    const Cli::Progress progress(u"Opening "_s + path);
-    return Cli::readEntities(Cli::readDocument(path));
-}
-
 QList<Cli::ShownEntity> inTreeOrder(const Cli::Entities &entities)
 {
     QList<Cli::ShownEntity> all;
@@ -45,7 +39,8 @@ QString unknownEntity(const QString &path, const QString &wanted, const QList<Cl
     QStringList names;
     for (const auto &shown : all)
         names.append(shown.entity->getName());
-    return u"%1: there is no entity \"%2\""_s.arg(path, wanted) + Cli::didYouMean(wanted, names);
+    return u"%1: there is no entity \"%2\""_s.arg(Cli::Input::nameOf(path), wanted)
+        + Cli::didYouMean(wanted, names);
 }
 } // namespace
 
@@ -60,7 +55,7 @@ void addShow(CLI::App &app, Output &output)
     };
     const auto options = std::make_shared<Options>();
     CLI::App *verb = app.add_subcommand("show", "Show a dictionary: its entities and their variables");
-    verb->add_option("FILE", options->file, "The dictionary document")->required();
+    verb->add_option("FILE", options->file, Input::optionText)->required();
     verb->add_option("--entity", options->entity, "Show only the entity with this name")->type_name("NAME");
     verb->add_flag("--json", options->json, "Print JSON for other programs");
     verb->footer("Examples:\n"
@@ -75,7 +70,7 @@ void addShow(CLI::App &app, Output &output)
 
 void show(const QString &path, const QString &entity, ShowForm form, Output &output)
 {
-    const Entities entities = read(path);
+    const Entities entities = openEntities(path);
     QList<ShownEntity> shown = inTreeOrder(entities);
     if (!entity.isEmpty()) {
         const QList<ShownEntity> all = shown;
@@ -87,6 +82,6 @@ void show(const QString &path, const QString &entity, ShowForm form, Output &out
     if (form == ShowForm::Json)
         output.raw(shownAsJson(path, shown));
     else
-        showAsText(path, shown, output);
+        showAsText(Input::nameOf(path), shown, output);
 }
 } // namespace Cli

@@ -45,6 +45,7 @@ QJsonObject variable(const TDcVariable *variable)
     return {
         {"alias"_L1, variable->getAlias()},
         {"decimals"_L1, variable->getDecimals()},
+        {"documentation"_L1, variable->getDocumentation()},
         {"fieldSize"_L1, variable->getFieldSize()},
         {"fileName"_L1, variable->getFileName()},
         {"group"_L1, variable->getGroup()},

@@ -1,6 +1,7 @@
 #include "cli/Target.h"
 
 #include "cli/Failure.h"
+#include "cli/Input.h"
 #include "cli/Interruption.h"
 
 #include <QFileInfo>
@@ -12,6 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 
 void Cli::checkTarget(const QString &in, const QString &out, Overwrite overwrite)
 {
+    if (Input::isStandard(out))
+        throw Failure(u"-: a file to write needs a name (./- if it is to be this one)"_s);
     const QFileInfo target(out);
     if (target.isDir())
         throw Failure(u"%1: is a directory, not a file"_s.arg(out));

@@ -1,11 +1,9 @@
 #include "cli/TextConverter.h"
 
-#include "cli/Failure.h"
+#include "cli/Input.h"
 #include "cli/Output.h"
 #include "cli/Text.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -54,12 +52,7 @@ void print(const QString &place, const QJsonValue &value, Cli::Output &output)
 
 void Cli::convertToText(const QString &path, Output &output)
 {
-    QFile file(path);
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly))
-        throw Failure(u"%1: cannot be opened: %2"_s.arg(path, file.errorString()));
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        throw Failure(u"%1: cannot be read: %2"_s.arg(path, file.errorString()));
+    const QByteArray bytes = Input::readAll(path);
     if (const QJsonDocument document = QJsonDocument::fromJson(bytes); document.isObject())
         print({}, document.object(), output);
     else

@@ -16,6 +16,7 @@
 #include <cstdio>
 #include <functional>
 #include <iostream>
+#include <sstream>
 
 #include <unistd.h>
 
@@ -58,7 +59,11 @@ int run(int argc, char **argv, Cli::Output &output)
         return status;
     } catch (const CLI::ParseError &error) {
         // Also how help and version are asked for, which is no error.
-        return app.exit(error) == 0 ? 0 : statusOfErrors;
+        std::ostringstream answer;
+        const int code = app.exit(error, answer, std::cerr);
+        output.raw(QByteArray::fromStdString(answer.str()));
+        output.flush();
+        return code == 0 ? 0 : statusOfErrors;
     }
 }
 } // namespace

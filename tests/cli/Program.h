@@ -21,11 +21,14 @@ struct ProgramRun {
     QString errors;
 };
 
-/// Runs the program that was built with the tests. A crash has the status -1.
-[[nodiscard]] inline ProgramRun runProgram(const QStringList &arguments)
+/// Runs the program that was built with the tests, with \a input on its standard input. A crash has the
+/// status -1.
+[[nodiscard]] inline ProgramRun runProgram(const QStringList &arguments, const QByteArray &input = {})
 {
     QProcess process;
     process.start(QStringLiteral(QUILLON_PROGRAM), arguments);
+    process.write(input);
+    process.closeWriteChannel();
     if (!process.waitForFinished(120'000))
         throw std::runtime_error("the program does not end");
     const int status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;

@@ -37,7 +37,7 @@ private Q_SLOTS:
         const TestFolder folder;
         const QString in = folder.write(u"in.mvdb"_s, lossy);
         const QString out = folder.write(u"out.mvdb"_s, "precious");
-        const ProgramRun run = runProgram({u"convert"_s, in, out});
+        const ProgramRun run = runProgram({u"convert"_s, u"--force"_s, in, out});
         QCOMPARE(run.errors, QString());
         QCOMPARE(run.output,
                  u"entities[0]/variables[0] \"V\": documentation: dropped (was \"why\")\n"
@@ -50,7 +50,7 @@ private Q_SLOTS:
     {
         const TestFolder folder;
         const QString in = folder.write(u"in.mvdb"_s, lossy);
-        const QString out = folder.write(u"out.mvdb"_s, "old");
+        const QString out = folder.path(u"out.mvdb"_s);
         const ProgramRun run = runProgram({u"convert"_s, u"--lossy"_s, in, out});
         QCOMPARE(run.status, 0);
         QCOMPARE(
@@ -78,6 +78,19 @@ private Q_SLOTS:
         QCOMPARE(runProgram({u"convert"_s, u"--lossy"_s, in, out}).status, 0);
     }
 
+    void writesOverAFileOnlyWhenToldTo()
+    {
+        const TestFolder folder;
+        const QString in = folder.write(u"in.mvdb"_s, lossless);
+        const QString out = folder.write(u"out.mvdb"_s, "precious");
+        const ProgramRun refused = runProgram({u"convert"_s, u"--lossy"_s, in, out});
+        QCOMPARE(refused.errors, u"quillon: %1: is there already (--force writes over it)\n"_s.arg(out));
+        QCOMPARE(refused.status, 2);
+        QCOMPARE(folder.read(u"out.mvdb"_s), "precious"_ba);
+        QCOMPARE(runProgram({u"convert"_s, in, out, u"--force"_s}).status, 0);
+        QCOMPARE(QJsonDocument::fromJson(folder.read(u"out.mvdb"_s)), QJsonDocument::fromJson(lossless));
+    }
+
     void overwritingKeepsThePermissions()
     {
         const TestFolder folder;
@@ -85,7 +98,7 @@ private Q_SLOTS:
         const QString out = folder.write(u"out.mvdb"_s, "old");
         const auto own = QFile::ReadOwner | QFile::WriteOwner;
         QVERIFY(QFile::setPermissions(out, own));
-        QCOMPARE(runProgram({u"convert"_s, in, out}).status, 0);
+        QCOMPARE(runProgram({u"convert"_s, in, out, u"--force"_s}).status, 0);
         QCOMPARE(QFile::permissions(out) & ~(QFile::ReadUser | QFile::WriteUser), QFile::Permissions(own));
     }
 
@@ -105,7 +118,7 @@ private Q_SLOTS:
         const TestFolder folder;
         const QString in = folder.write(u"in.mvdb"_s, content);
         const QString out = folder.write(u"out.mvdb"_s, "precious");
-        ProgramRun run = runProgram({u"convert"_s, u"--lossy"_s, in, out});
+        ProgramRun run = runProgram({u"convert"_s, u"--lossy"_s, u"--force"_s, in, out});
         QCOMPARE(run.status, 2);
         QCOMPARE(run.output, QString());
         QTEST(run.errors.replace(in, u"IN"_s), "error");
@@ -122,7 +135,7 @@ private Q_SLOTS:
                  0);
         for (const QString &out : {in, folder.path(u"./in.mvdb"_s), folder.path(u"symbolic.mvdb"_s),
                                    folder.path(u"hard.mvdb"_s)}) {
-            const ProgramRun run = runProgram({u"convert"_s, in, out});
+            const ProgramRun run = runProgram({u"convert"_s, in, out, u"--force"_s});
             QCOMPARE(run.errors, u"quillon: %1 and %2 are the same file\n"_s.arg(in, out));
             QCOMPARE(run.status, 2);
         }
@@ -140,6 +153,21 @@ private Q_SLOTS:
         const ProgramRun device = runProgram({u"convert"_s, in, u"/dev/null"_s});
         QCOMPARE(device.errors, u"quillon: /dev/null: is not a regular file\n"_s);
         QCOMPARE(device.status, 2);
+        // For some programs that is standard output; here it would quietly become a file of that name.
+        const ProgramRun output = runProgram({u"convert"_s, in, u"-"_s});
+        QCOMPARE(output.errors,
+                 u"quillon: -: a file to write needs a name (./- if it is to be this one)\n"_s);
+        QCOMPARE(output.status, 2);
+    }
+
+    void convertsStandardInput()
+    {
+        const TestFolder folder;
+        const QString out = folder.path(u"out.mvdb"_s);
+        const ProgramRun run = runProgram({u"convert"_s, u"-"_s, out}, lossless);
+        QCOMPARE(run.errors, QString());
+        QCOMPARE(run.status, 0);
+        QCOMPARE(QJsonDocument::fromJson(folder.read(u"out.mvdb"_s)), QJsonDocument::fromJson(lossless));
     }
 
     void saysThatATargetCannotBeWritten()

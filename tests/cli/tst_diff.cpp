@@ -154,6 +154,134 @@ private Q_SLOTS:
         QVERIFY(others[1]["after"_L1].isObject() && others[1]["before"_L1].isUndefined());
     }
 
+    void valuesThatCannotStandWhereTheyDoCount_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char *name, const char *left, const char *right, const QString &text) {
+            QTest::newRow(name) << json(left) << json(right) << text;
+        };
+        const auto variable = [](const char *keys) {
+            return "{'name': 'A', 'variables': [{'name': 'V', " + QByteArray(keys) + "}]}";
+        };
+        row("list and object for a label", "{'name': 'A', 'label': ['x'], 'entities': []}",
+            "{'name': 'A', 'label': {'y': 2}, 'entities': []}",
+            u"Other value A: label: changed from [\"x\"] to {\"y\":2}\n"_s);
+        row("number for a category", variable("'valueLabels': [7]"), variable("'valueLabels': [{}]"),
+            u"Other value A/V: valueLabels[0]: changed from 7 to {}\n"_s);
+        row("text for a number", variable("'tag': 'x'"), variable("'tag': 'y'"),
+            u"Other value A/V: tag: changed from \"x\" to \"y\"\n"_s);
+        row("text for a number that is not there", variable("'tag': 'x'"), variable("'size': 0"),
+            u"Other value A/V: tag: dropped (was \"x\")\n"_s);
+        row("fraction of a code", variable("'missing': 1.9"), variable("'missing': 2"),
+            u"Other value A/V: missing: changed from 1.9 to 2\n"_s);
+        row("layout that is no object", variable("'metadata': 5"), variable("'metadata': {}"),
+            u"Other value A/V: metadata: changed from 5 to {}\n"_s);
+        row("variables that are no list", "{'name': 'A', 'variables': 5}", "{'name': 'A', 'variables': []}",
+            u"Other value A: variables: changed from 5 to []\n"_s);
+        row("root beside entities", "{'name': 'A', 'variables': [], 'entities': [], 'root': [1]}",
+            "{'name': 'A', 'variables': [], 'entities': []}", u"Other value A: root: dropped (was [1])\n"_s);
+    }
+    void valuesThatCannotStandWhereTheyDoCount()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        const TestFolder folder;
+        const QStringList files{folder.write(u"a.mvdb"_s, before), folder.write(u"b.mvdb"_s, after)};
+        const ProgramRun run = runProgram(QStringList{u"diff"_s} + files);
+        QCOMPARE(run.errors, QString());
+        QTEST(run.output, "text");
+        QCOMPARE(run.status, 1);
+        const QJsonObject asJson =
+            QJsonDocument::fromJson(runProgram(QStringList{u"diff"_s, u"--json"_s} + files).output.toUtf8())
+                .object();
+        QCOMPARE(asJson.value("otherValues"_L1)[0]["text"_L1].toString() + u'\n', run.output);
+        QVERIFY(asJson.value("otherKeys"_L1).toArray().isEmpty());
+    }
+
+    void waysOfWritingTheSameDoNotCount_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<QByteArray>("after");
+        const auto row = [](const char *name, const char *left, const char *right) {
+            QTest::newRow(name) << json(left) << json(right);
+        };
+        row("number as text", "{'variables': [{'label': 7, 'tag': '3'}]}",
+            "{'variables': [{'label': '7', 'tag': 3}]}");
+        row("flag as number", "{'selectable': 1}", "{'selectable': true}");
+        row("nothing", "{'variables': [{'label': null, 'tag': 0, 'metadata': {'start': 1}}]}",
+            "{'variables': [{'alias': '', 'missing': 0, 'metadata': {'range': []}}]}");
+        row("without a list", "{'variables': {'name': 'V', 'metadata': {'range': {'min': 0.5}}}}",
+            "{'variables': [{'name': 'V', 'metadata': {'range': [{'min': 0.5}]}}]}");
+        row("children", "{'name': 'A', 'variables': [], 'entities': [{'name': 'B'}]}",
+            "{'name': 'A', 'variables': [], 'root': {'name': 'B'}}");
+        row("weight", "{'weightVar': 'W'}", "{'weigthVar': 'W'}");
+    }
+    void waysOfWritingTheSameDoNotCount()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(QByteArray, after);
+        const TestFolder folder;
+        const QString left = folder.write(u"a.mvdb"_s, before);
+        const QString right = folder.write(u"b.mvdb"_s, after);
+        QCOMPARE(runProgram({u"diff"_s, left, right}).output, runProgram({u"diff"_s, left, left}).output);
+        QCOMPARE(runProgram({u"diff"_s, right, left}).status, 0);
+    }
+
+    void whatTheLayerSpellsOutIsNoOtherValue()
+    {
+        // With another type the layer writes a size and a type where the file has none.
+        const TestFolder folder;
+        const QString left =
+            folder.write(u"a.mvdb"_s, json("{'variables': [{'name': 'V', 'type': 'real'}]}"));
+        for (const char *type : {"", ", 'type': 'string'"}) {
+            const QString right =
+                folder.write(u"b.mvdb"_s, json("{'variables': [{'name': 'V'") + json(type) + "}]}");
+            for (const QStringList &files : {QStringList{left, right}, QStringList{right, left}}) {
+                const ProgramRun run = runProgram(QStringList{u"diff"_s} + files);
+                QCOMPARE(run.output.count(u'\n'), 1);
+                QVERIFY2(run.output.contains(u"type changed"_s), qPrintable(run.output));
+            }
+        }
+    }
+
+    void readsPipes()
+    {
+        const TestFolder folder;
+        const QString left = folder.write(u"a.mvdb"_s, before);
+        const QString right = folder.write(u"b.mvdb"_s, after);
+        const ProgramRun files = runProgram({u"diff"_s, left, right});
+        const ProgramRun standard = runProgram({u"diff"_s, u"-"_s, right}, before);
+        QCOMPARE(standard.errors, QString());
+        QCOMPARE(standard.output, files.output);
+        QCOMPARE(runProgram({u"diff"_s, left, u"-"_s}, after).output, files.output);
+        QCOMPARE(runProgram({u"diff"_s, u"--textconv"_s, u"-"_s}, before).output,
+                 runProgram({u"diff"_s, u"--textconv"_s, left}).output);
+        const ProgramRun twice = runProgram({u"diff"_s, u"-"_s, u"-"_s}, before);
+        QCOMPARE(twice.errors,
+                 u"quillon: standard input can be read only once: give one of the two as a file\n"_s);
+        QCOMPARE(twice.status, 2);
+    }
+
+    void theDocumentedComparisonOfVersionsWorks()
+    {
+        QFile page(QStringLiteral(QUILLON_SOURCE_DIR "/docs/version-control.md"));
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QString line = QString::fromUtf8(page.readAll()).split(u'\n').filter(u"git show"_s).value(1);
+        QVERIFY2(line.startsWith(u"quillon diff <("_s), qPrintable(line));
+        const TestFolder folder;
+        (void)git(folder, {u"init"_s, u"-q"_s, u"-b"_s, u"main"_s});
+        (void)folder.write(u"survey.mvdb"_s, before);
+        (void)git(folder, {u"add"_s, u"survey.mvdb"_s});
+        (void)git(folder,
+                  {u"-c"_s, u"user.name=n"_s, u"-c"_s, u"user.email=e"_s, u"commit"_s, u"-qm"_s, u"first"_s});
+        (void)folder.write(u"survey.mvdb"_s, after);
+        (void)folder.write(u"compare"_s, line.toUtf8() + "; test $? -eq 1\n");
+        QCOMPARE(git(folder, {u"-c"_s, u"alias.run=!bash ./compare"_s, u"run"_s}),
+                 u"Variable A/AGE: label changed from \"Age\" to \"Age in years\\x9b\"\n"_s);
+    }
+
     void errorsHaveStatusTwo_data()
     {
         QTest::addColumn<QStringList>("names");
@@ -200,6 +328,9 @@ private Q_SLOTS:
         QCOMPARE(run.output, u"<<<<<<<\n{"_s);
         QCOMPARE(run.status, 0);
         QCOMPARE(runProgram({u"diff"_s, u"--textconv"_s, folder.path(u"missing"_s)}).status, 2);
+        const QString directory = folder.path(u"."_s);
+        QCOMPARE(runProgram({u"diff"_s, u"--textconv"_s, directory}).errors,
+                 u"quillon: %1: is a directory, not a file\n"_s.arg(directory));
     }
 
     void theTwoLinesOfTheDocumentationMakeGitUseIt()

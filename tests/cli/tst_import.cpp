@@ -268,8 +268,28 @@ private Q_SLOTS:
             << u"d.xyz"_s << "x"_ba << QStringList() << u"quillon: d.xyz: This kind"_s;
         QTest::addRow("uneven rows") << u"d.csv"_s << "a,b\n1,2,3\n"_ba << QStringList()
                                      << u"quillon: d.csv, line 2"_s;
-        QTest::addRow("entity name") << u"d.csv"_s << QByteArray(people) << QStringList{u"--entity"_s, u"9"_s}
-                                     << u"quillon: \"9\" is no name"_s;
+        const auto name = [](const char *row, const QString &entity, const QString &error) {
+            QTest::newRow(row) << u"d.csv"_s << QByteArray(people) << QStringList{u"--entity"_s, entity}
+                               << u"quillon: the entity cannot be called \"%1\": "_s.arg(entity) + error;
+        };
+        const auto invalid = u"The name \"%1\" is not valid. "_s;
+        name("entity that begins with a digit", u"9"_s, invalid.arg(u"9"_s));
+        name("entity with a blank", u"a b"_s, invalid.arg(u"a b"_s));
+        name("entity with a long name", QString(51, u'a'), u"The name has 51 characters. "_s);
+        QTest::addRow("entity called as the data file")
+            << u"my-survey.csv"_s << QByteArray(people) << QStringList()
+            << u"quillon: the entity cannot be called \"my-survey\": "_s;
+        QTest::addRow("no fields") << u"d.json"_s << R"({"fields": []})"_ba << QStringList()
+                                   << u"quillon: FOLDER/d.json: there are no fields\n"_s;
+        QTest::addRow("catalog of a text file")
+            << u"d.csv"_s << QByteArray(people) << QStringList{u"--catalog"_s, u"nothere"_s}
+            << u"quillon: FOLDER/d.csv: --catalog is only for files ending in .sas7bdat, .xpt"_s;
+        QTest::addRow("delimiter of a file without one")
+            << u"d.sav"_s << survey() << QStringList{u"--delimiter"_s, u";"_s}
+            << u"quillon: FOLDER/d.sav: --delimiter is only for files ending in .csv, .tsv, .tab, .txt"_s;
+        QTest::addRow("header of a file without one")
+            << u"d.sav"_s << survey() << QStringList{u"--no-header"_s}
+            << u"quillon: FOLDER/d.sav: --no-header is only for files ending in .csv, .tsv, .tab, .txt"_s;
         QTest::addRow("splitter") << u"d.csv"_s << QByteArray(people) << QStringList{u"--splitter"_s, u"__"_s}
                                   << u"quillon: --splitter: \"__\" is more than one character"_s;
         QTest::addRow("delimiter") << u"d.csv"_s << QByteArray(people)
@@ -286,7 +306,8 @@ private Q_SLOTS:
         const QString out = folder.write(u"out.mvdb"_s, "precious");
         const ProgramRun run = runProgram(
             QStringList{u"import"_s, folder.write(name, content), u"-o"_s, out, u"--force"_s} + arguments);
-        QVERIFY2(run.errors.startsWith(error), qPrintable(run.errors));
+        QVERIFY2(run.errors.startsWith(error.replace(u"FOLDER"_s, QFileInfo(out).path())),
+                 qPrintable(run.errors));
         QCOMPARE(run.status, 2);
         QCOMPARE(run.output, QString());
         QCOMPARE(folder.read(u"out.mvdb"_s), "precious"_ba);

@@ -68,6 +68,62 @@ No variables.
         QCOMPARE(run.output, path + expected);
     }
 
+    void showsWhatTheFileSaysThoughTheLayerDropsIt()
+    {
+        // A single root object and a single range lose the weight and the fractions in the layer's reader.
+        const TestFolder folder;
+        const QString path = folder.write(
+            u"d.mvdb"_s,
+            json("{'root': {'name': 'HH', 'weightVar': 'W', 'variables': [{'name': 'W', 'type': 'real', "
+                 "'documentation': 'why', 'metadata': {'start': 7, 'range': {'min': 0.5, 'max': 2.5}}}]}}"));
+        QCOMPARE(runProgram({u"show"_s, path}).output, path + uR"(: 1 entity, 1 variable
+
+Entity  Level  Weight  Variables
+HH          1  W               1
+
+HH
+Variable  Role    Type  Range       Missing  Not appl.
+W         weight  real  0.5 to 2.5        0          0
+)"_s);
+        const ProgramRun run = runProgram({u"show"_s, u"--json"_s, path});
+        const QJsonValue entity =
+            QJsonDocument::fromJson(run.output.toUtf8()).object().value("entities"_L1)[0];
+        QCOMPARE(entity["weightVar"_L1].toString(), u"W"_s);
+        const QJsonValue variable = entity["variables"_L1][0];
+        QCOMPARE(variable["documentation"_L1].toString(), u"why"_s);
+        QCOMPARE(variable["layout"_L1]["ranges"_L1][0]["min"_L1].toDouble(), 0.5);
+        QCOMPARE(variable["layout"_L1]["start"_L1].toInt(), 7);
+    }
+
+    void showsEachOfSeveralRoots_data()
+    {
+        QTest::addColumn<QByteArray>("entities");
+        QTest::addColumn<QString>("names");
+        QTest::addRow("two") << json("[{'name': 'A', 'variables': [{'name': 'V', 'documentation': 'why'}]}, "
+                                     "{'name': 'B', 'entities': [{'name': 'C'}]}]")
+                             << u"A B C"_s;
+        QTest::addRow("one that is no object") << json("[{'name': 'A'}, 5]") << u"A "_s;
+        QTest::addRow("none") << "[]"_ba << QString();
+    }
+    void showsEachOfSeveralRoots()
+    {
+        QFETCH(QByteArray, entities);
+        const TestFolder folder;
+        for (const char *key : {"root", "entities"}) {
+            const QByteArray text = R"({")" + QByteArray(key) + R"(": )" + entities + "}";
+            const ProgramRun run = runProgram({u"show"_s, u"--json"_s, folder.write(u"d.mvdb"_s, text)});
+            QCOMPARE(run.errors, QString());
+            const QJsonArray shown =
+                QJsonDocument::fromJson(run.output.toUtf8()).object().value("entities"_L1).toArray();
+            QStringList names;
+            for (const QJsonValue &entity : shown)
+                names.append(entity["name"_L1].toString());
+            QTEST(names.join(u' '), "names");
+            if (names.size() == 3)
+                QCOMPARE(shown[0]["variables"_L1][0]["documentation"_L1].toString(), u"why"_s);
+        }
+    }
+
     void showsOneEntity()
     {
         const TestFolder folder;
