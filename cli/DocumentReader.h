@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QString>
 #include <QStringList>
 
@@ -8,6 +9,7 @@
 #include <vector>
 
 class DictionaryFile;
+class QJsonDocument;
 class TDcEntity;
 
 namespace Cli
@@ -16,16 +18,21 @@ using Entities = std::vector<std::unique_ptr<TDcEntity>>;
 
 /// A dictionary document as it stands in a file.
 struct DictionaryDocument {
-    QJsonObject content;
-    /// The key that holds the entities, "entities" or "root"; empty when the document is an entity itself.
+    QJsonValue content; ///< An object or a list.
+    /// The key that holds the entities; empty when the document is an entity itself or a list of them.
     QString rootKey;
     /// What of the text no program keeps that parses it: keys that are there twice, digits beyond a number's.
     QStringList unkept;
+
+    /// The root entities: a list, or one object.
+    [[nodiscard]] QJsonValue entities() const { return rootKey.isEmpty() ? content : content[rootKey]; }
 };
 
-/// Whether \a object is an entity, not one that holds entities: it has keys that nothing but an entity has,
-/// or a name above further entities.
-[[nodiscard]] bool isEntity(const QJsonObject &object);
+[[nodiscard]] QJsonValue valueOf(const QJsonDocument &document);
+
+/// \a content as an object that holds its entities, whichever way it holds them. An entity itself then stands
+/// in a list.
+[[nodiscard]] QJsonObject framed(const QJsonValue &content);
 
 /// Reads the dictionary document at \a path, see Input::readAll(). Throws Failure when it cannot be read, is
 /// not JSON (the message tells line and column) or is no dictionary.
@@ -35,7 +42,7 @@ struct DictionaryDocument {
 [[nodiscard]] Entities readEntities(const DictionaryDocument &document);
 
 /// The document that holds \a entities where \a original holds its own, written through the layer.
-[[nodiscard]] QJsonObject writeEntities(const Entities &entities, const DictionaryDocument &original);
+[[nodiscard]] QJsonValue writeEntities(const Entities &entities, const DictionaryDocument &original);
 
 /// Opens the dictionary document at \a path so that nothing in it gets lost, and reads the whole tree. Throws
 /// Failure, also when the document has more than one root.
@@ -43,13 +50,4 @@ struct DictionaryDocument {
 
 /// The same for a document with any number of roots.
 [[nodiscard]] Entities openEntities(const QString &path);
-
-/// A place in a text file; both count from 1. A column is a character, however many bytes it takes.
-struct TextPosition {
-    int line;
-    int column;
-};
-
-/// Where the byte at \a offset stands in \a text, which is UTF-8 with or without a byte order mark.
-[[nodiscard]] TextPosition textPosition(const QByteArray &text, qsizetype offset);
 } // namespace Cli

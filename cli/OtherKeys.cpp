@@ -149,20 +149,14 @@ private:
         }
     }
 };
-
-/// The document as an object that holds its root in a list, whichever way it holds it.
-QJsonObject framed(const QJsonDocument &document)
-{
-    if (document.isArray())
-        return {{"root"_L1, document.array()}};
-    return Cli::isEntity(document.object()) ? QJsonObject{{"root"_L1, document.object()}} : document.object();
-}
 } // namespace
 
 Cli::OtherDifferences Cli::otherDifferences(const QByteArray &before, const QByteArray &after)
 {
     Comparison comparison;
-    comparison.objects(framed(QJsonDocument::fromJson(before)), framed(QJsonDocument::fromJson(after)),
-                       frameKind, {});
+    const auto document = [](const QByteArray &text) {
+        return framed(valueOf(QJsonDocument::fromJson(text)));
+    };
+    comparison.objects(document(before), document(after), frameKind, {});
     return comparison.found;
 }

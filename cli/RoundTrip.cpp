@@ -2,6 +2,7 @@
 
 #include "cli/Failure.h"
 #include "cli/ObjectKind.h"
+#include "documents/DocumentKind.h"
 #include "model/TDcEntity.h"
 
 #include <QJsonArray>
@@ -34,7 +35,7 @@ QString path(const Step *from, const Step *to)
 {
     QStringList segments;
     for (; from != to; from = from->before) {
-        if (!from->key.isEmpty())
+        if (!from->key.isEmpty() || from->index >= 0)
             segments.prepend(segment(*from));
     }
     return segments.join(u'/');
@@ -58,6 +59,20 @@ QString shown(const QJsonValue &value)
 class Comparison
 {
 public:
+    void documents(const QJsonValue &before, const QJsonValue &after)
+    {
+        const QJsonObject object = before.toObject();
+        if (before.isArray())
+            lists(before.toArray(), after.toArray(), {.kind = &Cli::entityKind});
+        else // If the document is an entity itself, its name says where a difference is.
+            objects(object, after.toObject(),
+                    {.kind = DocumentKind::isEntity(object) ? &Cli::entityKind : &Cli::frameKind,
+                     .object = &object});
+    }
+
+    QList<Difference> found;
+
+private:
     void objects(const QJsonObject &before, const QJsonObject &after, const Step &at)
     {
         for (auto entry = before.begin(); entry != before.end(); ++entry) {
@@ -71,9 +86,6 @@ public:
         }
     }
 
-    QList<Difference> found;
-
-private:
     void values(const QJsonValue &before, const QJsonValue &after, const Step &at)
     {
         if (before.isArray() && after.isArray())
@@ -126,23 +138,23 @@ QString Difference::toString() const
                                : u"%1: changed from %2 to %3"_s.arg(where, shown(before), shown(after));
 }
 
-QList<Difference> differences(const QJsonObject &before, const QJsonObject &after)
+QList<Difference> differences(const QJsonValue &before, const QJsonValue &after)
 {
     Comparison comparison;
-    // The document may be an entity itself; its name then says where a difference is.
-    comparison.objects(before, after,
-                       {.kind = isEntity(before) ? &entityKind : &frameKind, .object = &before});
+    comparison.documents(before, after);
     return comparison.found;
 }
 
 RoundTrip roundTrip(const DictionaryDocument &document)
 {
-    QByteArray written = QJsonDocument(writeEntities(readEntities(document), document)).toJson();
+    const QJsonValue value = writeEntities(readEntities(document), document);
+    QByteArray written =
+        (value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject())).toJson();
     // What the next reader will find counts, not what was meant to be written.
     QJsonParseError error;
     const QJsonDocument again = QJsonDocument::fromJson(written, &error);
     if (error.error != QJsonParseError::NoError)
         throw Failure(u"the result could not be read again: %1"_s.arg(error.errorString()));
-    return {written, differences(document.content, again.object()), document.unkept};
+    return {written, differences(document.content, valueOf(again)), document.unkept};
 }
 } // namespace Cli

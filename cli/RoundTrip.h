@@ -27,7 +27,7 @@ struct Difference {
 /// What says the same to a reader counts as the same: an object and a list of just this object, the
 /// children under "root" and under "entities", the weight variable under either spelling, and a known key
 /// left out because its value is empty. Keys that only \a after has are defaults spelt out, no difference.
-[[nodiscard]] QList<Difference> differences(const QJsonObject &before, const QJsonObject &after);
+[[nodiscard]] QList<Difference> differences(const QJsonValue &before, const QJsonValue &after);
 
 /// A document after it was read and written once, and what that cost.
 struct RoundTrip {

@@ -107,10 +107,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("error");
         QTest::addRow("malformed") << "{\n  \"a\": tru}"_ba
-                                   << u"quillon: IN:2:8: is not JSON: illegal value\n"_s;
-        QTest::addRow("no dictionary")
-            << "{}"_ba
-            << u"quillon: IN: is not a dictionary document: neither \"entities\" nor \"root\" nor an entity was found\n"_s;
+                                   << u"quillon: IN: line 2, column 8: illegal value\n"_s;
+        QTest::addRow("no dictionary") << "{}"_ba << u"quillon: IN: There is no root entity.\n"_s;
     }
     void anErrorLeavesTheTargetAsItWas()
     {

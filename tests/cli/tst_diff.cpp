@@ -229,6 +229,21 @@ private Q_SLOTS:
         QCOMPARE(runProgram({u"diff"_s, right, left}).status, 0);
     }
 
+    void whereTheRootStandsDoesNotCount()
+    {
+        const TestFolder folder;
+        const QByteArray entity =
+            json("{'label': 'HH', 'codeVar': 'K', 'entities': [{'name': 'C', 'variables': []}]}");
+        const QString alone = folder.write(u"a.mvdb"_s, entity);
+        for (const QByteArray &frame : {"[" + entity + "]", "{\"root\": [" + entity + "]}",
+                                        "{\"root\": " + entity + "}", "{\"entities\": [" + entity + "]}"}) {
+            const ProgramRun run = runProgram({u"diff"_s, alone, folder.write(u"b.mvdb"_s, frame)});
+            QCOMPARE(run.errors, QString());
+            QCOMPARE(run.output, u"No differences.\n"_s);
+            QCOMPARE(run.status, 0);
+        }
+    }
+
     void whatTheLayerSpellsOutIsNoOtherValue()
     {
         // With another type the layer writes a size and a type where the file has none.

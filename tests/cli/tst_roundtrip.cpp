@@ -101,6 +101,11 @@ private Q_SLOTS:
         QTest::addRow("key of an entity that is the document")
             << json("{'name': 'A', 'variables': [], 'version': 2}")
             << QStringList{u"\"A\": version: dropped (was 2)"_s};
+        QTest::addRow("entity in a list that is the document")
+            << json("[{'name': 'A', 'version': 2}]") << QStringList{u"[0] \"A\": version: dropped (was 2)"_s};
+        QTest::addRow("known key that means nothing where it is")
+            << json("{'root': [{'name': 'A', 'variables': [{'name': 'V', 'entities': []}]}]}")
+            << QStringList{u"root[0]/variables[0] \"V\": entities: dropped (was [])"_s};
         QTest::addRow("nested entity without a name")
             << json("{'root': [{'entities': [{'label': 1}]}]}")
             << QStringList{u"root[0]/entities[0]: label: changed from 1 to \"1\""_s};
@@ -160,6 +165,10 @@ private Q_SLOTS:
             << json("{'root': [{'name': 'A', 'selectable': false, 'virtual': false, 'weightVar': 'W'}]}");
         QTest::addRow("the entity itself") << json("{'name': 'A', 'virtual': true}")
                                            << json("{'name': 'A', 'selectable': false, 'virtual': true}");
+        QTest::addRow("a list") << json("[{'name': 'A'}, {'name': 'B', 'weightVar': 'W'}]")
+                                << json("[{'name': 'A', 'selectable': false, 'virtual': false}, "
+                                        "{'name': 'B', 'selectable': false, 'virtual': false, "
+                                        "'weightVar': 'W'}]");
         QTest::addRow("no entities") << json("{'root': []}") << json("{'root': []}");
     }
     void theShapeOfTheDocumentStays()

@@ -110,7 +110,7 @@ W         weight  real  0.5 to 2.5        0          0
         QFETCH(QByteArray, entities);
         const TestFolder folder;
         for (const char *key : {"root", "entities"}) {
-            const QByteArray text = R"({")" + QByteArray(key) + R"(": )" + entities + "}";
+            const QByteArray text = "{\"" + QByteArray(key) + "\": " + entities + "}";
             const ProgramRun run = runProgram({u"show"_s, u"--json"_s, folder.write(u"d.mvdb"_s, text)});
             QCOMPARE(run.errors, QString());
             const QJsonArray shown =
@@ -122,6 +122,14 @@ W         weight  real  0.5 to 2.5        0          0
             if (names.size() == 3)
                 QCOMPARE(shown[0]["variables"_L1][0]["documentation"_L1].toString(), u"why"_s);
         }
+    }
+
+    void showsAListThatIsTheDocument()
+    {
+        const TestFolder folder;
+        for (const char *text : {"[{'name': 'A'}]", "[{'name': 'A'}, {'name': 'B'}]"})
+            QVERIFY(
+                runProgram({u"show"_s, folder.write(u"d.mvdb"_s, json(text))}).output.contains(u"\nA "_s));
     }
 
     void showsOneEntity()
