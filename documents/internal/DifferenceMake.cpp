@@ -83,8 +83,8 @@ PartsChange<Object> partsChange(const QList<Object *> &before, const QList<Objec
 
 QList<bool> staying(const QList<int> &peers, qsizetype sizeBefore)
 {
-    QList<int>
-        ends; // Positions in peers: of the longest ascents of every length, those with the lowest ends.
+    // Positions in peers: of the longest ascents of every length, those with the lowest ends.
+    QList<int> ends;
     QList<int> previous(peers.size(), -1);
     for (qsizetype i = 0; i < peers.size(); ++i) {
         if (peers.at(i) < 0)

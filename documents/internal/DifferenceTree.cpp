@@ -1,6 +1,7 @@
 #include "documents/internal/DifferenceData.h"
 
 #include "documents/DictionaryCopy.h"
+#include "documents/internal/DifferencePlaces.h"
 #include "documents/internal/Matching.h"
 #include "documents/internal/Properties.h"
 
@@ -12,39 +13,6 @@
 namespace
 {
 using namespace Difference;
-
-/// The entities of a tree, each before its children, and where they are.
-struct Tree {
-    struct Spot {
-        EntityPlace place;
-        const TDcEntity *parent;
-        int index;
-    };
-    QList<const TDcEntity *> entities;
-    QHash<const TDcEntity *, Spot> spots;
-
-    Tree(const TDcEntity &root, bool withChildren)
-    {
-        QList<std::pair<const TDcEntity *, Spot>> pending{
-            {&root,
-             {.place = {.path = {}, .item = -1, .names = root.getName()}, .parent = nullptr, .index = 0}}};
-        while (!pending.isEmpty()) {
-            const auto [entity, spot] = pending.takeLast();
-            entities.append(entity);
-            spots.insert(entity, spot);
-            const QList<TDcEntity *> &children = *entity->getChildren();
-            for (qsizetype i = withChildren ? children.size() : 0; i-- > 0;) {
-                const TDcEntity *child = children.at(i);
-                if (!child)
-                    continue;
-                EntityPlace place{
-                    .path = spot.place.path, .item = -1, .names = spot.place.names + u'/' + child->getName()};
-                place.path.append(int(i));
-                pending.append({child, {.place = place, .parent = entity, .index = int(i)}});
-            }
-        }
-    }
-};
 
 const QList<TDcVariable *> &variablesOf(const TDcEntity *entity)
 {
@@ -145,7 +113,7 @@ private:
             m_data->entities.append(change);
     }
 
-    EntityPlace placeOf(const TDcEntity *entity, const Tree &tree, const TDcEntity *other)
+    EntityPlace placeOf(const TDcEntity *entity, const TreePlaces &tree, const TDcEntity *other)
     {
         if (entity)
             return tree.spots.value(entity).place;
@@ -269,8 +237,8 @@ private:
 
     using Spot = std::pair<const TDcEntity *, int>;
 
-    Tree m_before;
-    Tree m_after;
+    TreePlaces m_before;
+    TreePlaces m_after;
     bool m_withChildren;
     QHash<const TDcEntity *, const TDcEntity *> m_peers; // Of the entities after.
     QSet<const TDcEntity *> m_stayBefore;

@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QStringList>
 
 #include <functional>
 
@@ -20,6 +21,23 @@ using Trait = std::function<QString(const Item &)>;
 
 /// What to do about traits that several items of a list share.
 enum class Repeated { InOrder, TellNothing };
+
+/// A text that tells something, or a null one.
+[[nodiscard]] inline QString told(const QString &text)
+{
+    return text.isEmpty() ? QString() : text;
+}
+
+[[nodiscard]] inline QString joined(const QStringList &texts)
+{
+    return texts.join(QChar(0x1f));
+}
+
+template <typename Item>
+[[nodiscard]] Peers noPeers(const QList<Item *> &after)
+{
+    return Peers(after.size(), -1);
+}
 
 /// Pairs items that have no peer yet and share \a trait, in linear time.
 template <typename Item>

@@ -57,6 +57,35 @@ QByteArray pdf(const TDcEntity *root)
     return problem.isEmpty() ? buffer.data() : QByteArray();
 }
 
+/// What is drawn on each page of \a file, in the language of such files.
+QStringList drawings(const QByteArray &file)
+{
+    QStringList pages;
+    const QByteArray begin("/FlateDecode\n>>\nstream\n");
+    for (qsizetype at = 0; (at = file.indexOf(begin, at)) >= 0; at += begin.size()) {
+        const qsizetype start = at + begin.size();
+        const QByteArray packed = file.sliced(start, file.indexOf("endstream", start) - start);
+        const QString text = QString::fromLatin1(qUncompress(QByteArray("\0\1\0\0", 4) + packed));
+        if (text.contains("\nBT\n"_L1))
+            pages.append(text);
+    }
+    return pages;
+}
+
+/// How far below the top of the page's text area the lines in \a drawing stand, and how high that area is.
+std::pair<QList<double>, double> baselines(const QString &drawing)
+{
+    static const QRegularExpression line(u"Tm\\n\\S+ (\\S+) Td"_s);
+    static const QRegularExpression area(u"\\n(\\d+) (\\d+) l\\n"_s);
+    QList<double> found;
+    for (auto match = line.globalMatch(drawing); match.hasNext();)
+        found.append(-match.next().captured(1).toDouble());
+    double height = 0;
+    for (auto match = area.globalMatch(drawing); match.hasNext() && height == 0;)
+        height = match.next().captured(2).toDouble();
+    return {found, height};
+}
+
 /// A device that takes nothing.
 class FullDevice : public QIODevice
 {
@@ -89,6 +118,7 @@ private Q_SLOTS:
     void aDeepChainIsNoTrouble();
     void writesPdf();
     void pdfGrowsWithTheDictionary();
+    void aPdfPageHoldsNothingOfTheNext();
     void saysWhenPdfCannotBeWritten();
 };
 
@@ -274,6 +304,22 @@ void tst_Codebook::pdfGrowsWithTheDictionary()
     for (int i = 0; i < 200; ++i)
         addVariable(*root, u"V%1"_s.arg(i), u"Variable"_s, u"STRING"_s, 20 + i, 1);
     QVERIFY(pdf(root.get()).count("/Type /Page\n") > 6);
+}
+
+void tst_Codebook::aPdfPageHoldsNothingOfTheNext()
+{
+    const QStringList pages = drawings(pdf(make().get()));
+    QCOMPARE(pages.size(), 3);
+    const auto [lines, height] = baselines(pages.first());
+    QVERIFY(height > 1000);
+    const double bottom = height;
+    QVERIFY(std::any_of(lines.cbegin(), lines.cend(), [bottom](double line) { return line < bottom; }));
+    QSet<double> below;
+    for (const double line : lines) {
+        if (line > height)
+            below.insert(line);
+    }
+    QCOMPARE(below.size(), 1); // The title and the number of the page.
 }
 
 void tst_Codebook::saysWhenPdfCannotBeWritten()

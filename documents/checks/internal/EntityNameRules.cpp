@@ -1,5 +1,5 @@
 #include "documents/checks/internal/Rules.h"
-#include "model/MetadataVariables.h"
+#include "documents/internal/Values.h"
 
 #include <algorithm>
 
@@ -121,9 +121,8 @@ QList<Extent> extents(const Entity &entity)
     QList<Extent> places;
     for (TDcVariable *variable : entity.variables) {
         const MetadataVariables *metadata = variable->getMetadataVariables();
-        const int kept = metadata ? metadata->getStart() : 0;
-        const int start = kept > 0 ? kept : variable->getFieldRelativePosition();
-        const bool known = kept > 0 || start > 1;
+        const int start = Values::start(*variable);
+        const bool known = start > 1 || (metadata && metadata->getStart() > 0);
         if (known && variable->getFieldSize() > 0)
             places.append({variable, metadata ? metadata->getRecord() : QString(), start,
                            qint64(start) + variable->getFieldSize() - 1});

@@ -67,16 +67,10 @@ void integersHaveWholeRanges(const Variable &subject, Report &report)
     }
 }
 
-/// Both codes are always there, so two zeros say that none has been chosen.
-bool codesAreChosen(const TDcVariable &variable)
-{
-    return variable.getMissing() != 0 || variable.getNotappl() != 0;
-}
-
 void missingIsOutside(const Variable &subject, Report &report)
 {
     const int code = subject.variable.getMissing();
-    if (!subject.type.isText() && codesAreChosen(subject.variable) && contains(ranges(subject), code))
+    if (!subject.type.isText() && Values::codesAreChosen(subject.variable) && contains(ranges(subject), code))
         report.add(subject, DictionaryCheck::tr("The missing code %1 is a valid value.").arg(code),
                    DictionaryCheck::tr("Choose a code outside the ranges."));
 }
@@ -84,14 +78,14 @@ void missingIsOutside(const Variable &subject, Report &report)
 void notApplicableIsOutside(const Variable &subject, Report &report)
 {
     const int code = subject.variable.getNotappl();
-    if (!subject.type.isText() && codesAreChosen(subject.variable) && contains(ranges(subject), code))
+    if (!subject.type.isText() && Values::codesAreChosen(subject.variable) && contains(ranges(subject), code))
         report.add(subject, DictionaryCheck::tr("The not-applicable code %1 is a valid value.").arg(code),
                    DictionaryCheck::tr("Choose a code outside the ranges."));
 }
 
 void zeroIsNoValue(const Variable &subject, Report &report)
 {
-    if (subject.type.isNumber() && !codesAreChosen(subject.variable) && contains(ranges(subject), 0))
+    if (subject.type.isNumber() && !Values::codesAreChosen(subject.variable) && contains(ranges(subject), 0))
         report.add(
             subject,
             DictionaryCheck::tr("The missing and the not-applicable code are 0, which is a valid value."),
@@ -100,7 +94,8 @@ void zeroIsNoValue(const Variable &subject, Report &report)
 
 void codesDiffer(const Variable &subject, Report &report)
 {
-    if (codesAreChosen(subject.variable) && subject.variable.getMissing() == subject.variable.getNotappl())
+    if (Values::codesAreChosen(subject.variable)
+        && subject.variable.getMissing() == subject.variable.getNotappl())
         report.add(subject,
                    DictionaryCheck::tr("Missing and not applicable have the same code, %1.")
                        .arg(subject.variable.getMissing()),

@@ -1,28 +1,18 @@
 #pragma once
 
 #include "documents/checks/internal/Rules.h"
-#include "model/MetadataVariables.h"
+#include "documents/internal/Values.h"
 
 #include <algorithm>
 
 /// What rules about the values of a variable have in common.
 namespace Checks
 {
-[[nodiscard]] inline QString number(double value)
-{
-    return QString::number(value, 'g', 15);
-}
+using Values::number;
 
-/// The ranges of a variable, without nulls. A lookup's values come from its table: what is left of a range
-/// has no meaning.
 [[nodiscard]] inline QList<Range *> ranges(const Variable &subject)
 {
-    const MetadataVariables *metadata = subject.variable.getMetadataVariables();
-    QList<Range *> found;
-    if (metadata && !metadata->getLookup())
-        found = *metadata->getRange();
-    found.removeAll(nullptr);
-    return found;
+    return Values::ranges(subject.variable);
 }
 
 [[nodiscard]] inline bool contains(const QList<Range *> &list, double value)

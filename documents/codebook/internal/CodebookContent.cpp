@@ -2,7 +2,7 @@
 
 #include "documents/checks/internal/TypeWord.h"
 #include "documents/codebook/Codebook.h"
-#include "model/MetadataVariables.h"
+#include "documents/internal/Values.h"
 
 #include <algorithm>
 
@@ -16,21 +16,12 @@ void add(QList<CodebookContent::Fact> &facts, const QString &name, const QString
         facts.append({name, value});
 }
 
-QString number(double value)
-{
-    return QString::number(value, 'g', 15);
-}
-
 QString rangesText(const TDcVariable &variable)
 {
-    const MetadataVariables *metadata = variable.getMetadataVariables();
-    if (!metadata || metadata->getLookup())
-        return {};
     QStringList texts;
-    for (const Range *range : std::as_const(*metadata->getRange())) {
-        if (range)
-            texts.append(number(range->getRangeMin()) + u" – "_s + number(range->getRangeMax()));
-    }
+    const QList<Range *> ranges = Values::ranges(variable);
+    for (const Range *range : ranges)
+        texts.append(Values::number(range->getRangeMin()) + u" – "_s + Values::number(range->getRangeMax()));
     return texts.join(u", "_s);
 }
 
@@ -116,9 +107,7 @@ QString CodebookContent::typeName(const TDcVariable &variable)
 
 QString CodebookContent::position(const TDcVariable &variable)
 {
-    const MetadataVariables *metadata = variable.getMetadataVariables();
-    const int kept = metadata ? metadata->getStart() : 0;
-    const int start = kept > 0 ? kept : variable.getFieldRelativePosition();
+    const int start = Values::start(variable);
     const int length = variable.getFieldSize();
     if (length <= 0 || start <= 0)
         return {};
@@ -154,8 +143,7 @@ QList<CodebookContent::Fact> CodebookContent::facts(const TDcVariable &variable)
     if (variable.getDecimals() > 0)
         add(facts, tr("Decimals"), QString::number(variable.getDecimals()));
     add(facts, tr("Valid range"), rangesText(variable));
-    // Both codes are always there, so two zeros say that none has been chosen.
-    if (variable.getMissing() != 0 || variable.getNotappl() != 0) {
+    if (Values::codesAreChosen(variable)) {
         add(facts, tr("Missing"), QString::number(variable.getMissing()));
         add(facts, tr("Not applicable"), QString::number(variable.getNotappl()));
     }
