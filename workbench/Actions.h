@@ -7,7 +7,7 @@ class QAction;
 class QMainWindow;
 class QMenu;
 
-/// Every action of the workbench. The table in Actions.cpp says what each is called and where it stands.
+/// Every action of the workbench. The table in ActionTable.cpp says what each is called and where it stands.
 enum class ActionId {
     FileNew,
     FileOpen,

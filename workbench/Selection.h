@@ -11,8 +11,7 @@ class TDcVariable;
 ///
 /// Panels show it and change it, so that they need not know each other. It never points at anything that the
 /// dictionary no longer holds: between Document::structureAboutToChange() and structureChanged() it is empty,
-/// and then what is left of it comes back, or what has the
-/// same names, or what stands nearest.
+/// and then what is left of it comes back, or what has the same names, or what stands nearest.
 class Selection : public QObject
 {
     Q_OBJECT

@@ -24,9 +24,9 @@ public:
     Tour(MainWindow *window, QString folder);
 
     /// Goes round with a copy of the dictionary at \a path, which stays as it is; the copy is in the folder
-    /// afterwards, changed and saved. A data file (.sav) beside it serves as source, and
-    /// areas.csv as area units. False when something was not as it should be, for instance a file of that
-    /// name is in the folder already, and errorText() says what.
+    /// afterwards, changed and saved. A data file (.sav) beside it serves as source, and areas.csv as area
+    /// units. False when something was not as it should be, for instance a file of that name is in the folder
+    /// already, and errorText() says what.
     [[nodiscard]] bool go(const QString &path);
     [[nodiscard]] QString errorText() const { return m_error; }
 
@@ -60,6 +60,8 @@ private:
     /// Takes the picture of \a dialog and closes it.
     bool dismiss(QDialog *dialog);
     void trigger(ActionId id);
+    /// Lets the windows show what was done.
+    static void settle();
     /// Does \a change, during which the program asks something; \a button is the answer.
     bool answer(const QString &button, const std::function<void()> &change);
     /// Takes the picture of \a widget.
