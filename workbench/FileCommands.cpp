@@ -5,6 +5,7 @@
 #include "workbench/FileDialogs.h"
 #include "workbench/journal/JournalFolder.h"
 #include "workbench/panels/Widgets.h"
+#include "workbench/PlainMessage.h"
 #include "workbench/Progress.h"
 
 #include <QAction>
@@ -12,8 +13,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -63,11 +62,10 @@ bool FileCommands::mayClose()
     Widgets::finishEditing(m_workspace.window);
     if (!m_workspace.document->isModified())
         return true;
-    QMessageBox box(QMessageBox::Warning, tr("Unsaved changes"),
-                    tr("Save the changes to “%1”?").arg(m_workspace.document->title()),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_workspace.window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(tr("Otherwise they are lost."));
+    PlainMessage box(QMessageBox::Warning, tr("Unsaved changes"),
+                     tr("Save the changes to “%1”?").arg(m_workspace.document->title()),
+                     tr("Otherwise they are lost."),
+                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_workspace.window);
     box.setDefaultButton(QMessageBox::Save);
     switch (box.exec()) {
     case QMessageBox::Save:
@@ -155,16 +153,12 @@ bool FileCommands::saveTo(const QString &path)
 
 void FileCommands::revert()
 {
-    QMessageBox box(QMessageBox::Warning, tr("Revert"),
-                    tr("Go back to “%1” as it was saved?").arg(m_workspace.document->title()),
-                    QMessageBox::Cancel, m_workspace.window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(tr("All changes since then are lost, and so is what can be undone."));
-    const QAbstractButton *yes = box.addButton(tr("Revert"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
+    PlainMessage box(QMessageBox::Warning, tr("Revert"),
+                     tr("Go back to “%1” as it was saved?").arg(m_workspace.document->title()),
+                     tr("All changes since then are lost, and so is what can be undone."),
+                     QMessageBox::Cancel, m_workspace.window);
     const QString path = m_workspace.document->path();
-    if (box.clickedButton() == yes && !m_workspace.document->open(path, m_workspace.document->access())
+    if (box.isConfirmed(tr("Revert")) && !m_workspace.document->open(path, m_workspace.document->access())
         && !m_workspace.document->errorText().isEmpty())
         FileDialogs::showCannotOpen(m_workspace.window, path, m_workspace.document->errorText());
 }
@@ -180,12 +174,11 @@ std::optional<Document::Access> FileCommands::chooseAccess(const QString &path)
     using enum Document::Access;
     if (!m_claim.isOpenElsewhere(path))
         return ReadWrite;
-    QMessageBox box(QMessageBox::Warning, tr("Open"),
-                    tr("“%1” is open in another window.").arg(QFileInfo(path).fileName()),
-                    QMessageBox::Cancel, m_workspace.window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(tr("Changes that are made in both windows have to be brought together by hand. "
-                              "Open it here to read it only?"));
+    PlainMessage box(QMessageBox::Warning, tr("Open"),
+                     tr("“%1” is open in another window.").arg(QFileInfo(path).fileName()),
+                     tr("Changes that are made in both windows have to be brought together by hand. "
+                        "Open it here to read it only?"),
+                     QMessageBox::Cancel, m_workspace.window);
     QPushButton *readOnly = box.addButton(tr("Open Read-Only"), QMessageBox::AcceptRole);
     const QAbstractButton *anyway = box.addButton(tr("Open Anyway"), QMessageBox::DestructiveRole);
     box.setDefaultButton(readOnly);
@@ -199,13 +192,8 @@ bool FileCommands::mayOverwrite(const QString &path)
 {
     if (!m_claim.isOpenElsewhere(path))
         return true;
-    QMessageBox box(QMessageBox::Warning, tr("Save"),
-                    tr("“%1” is open in another window.").arg(QFileInfo(path).fileName()),
-                    QMessageBox::Cancel, m_workspace.window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(tr("Overwrite it nevertheless?"));
-    const QAbstractButton *yes = box.addButton(tr("Overwrite"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    return box.clickedButton() == yes;
+    return PlainMessage(QMessageBox::Warning, tr("Save"),
+                        tr("“%1” is open in another window.").arg(QFileInfo(path).fileName()),
+                        tr("Overwrite it nevertheless?"), QMessageBox::Cancel, m_workspace.window)
+        .isConfirmed(tr("Overwrite"));
 }

@@ -1,9 +1,9 @@
 #include "workbench/FileDialogs.h"
 
+#include "workbench/PlainMessage.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QSettings>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,10 +16,8 @@ struct Texts {
 
 void showError(QWidget *window, const QString &text, const QString &why)
 {
-    QMessageBox box(QMessageBox::Critical, Texts::tr("Quillon Workbench"), text, QMessageBox::Ok, window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(why);
-    box.exec();
+    PlainMessage(QMessageBox::Critical, Texts::tr("Quillon Workbench"), text, why, QMessageBox::Ok, window)
+        .exec();
 }
 
 /// What the person agrees to; nothing when saving cannot or shall not go on.
@@ -30,15 +28,10 @@ DocumentFile::SaveOptions confirm(QWidget *window, const QString &title, const F
         showError(window, Texts::tr("“%1” cannot be saved.").arg(title), problem.text);
         return {};
     }
-    QMessageBox box(QMessageBox::Warning, Texts::tr("Save"), problem.text, QMessageBox::Cancel, window);
-    box.setTextFormat(Qt::PlainText);
+    PlainMessage box(QMessageBox::Warning, Texts::tr("Save"), problem.text, {}, QMessageBox::Cancel, window);
     if (losing)
         box.setDetailedText(problem.losses.join(u'\n'));
-    const QAbstractButton *yes =
-        box.addButton(losing ? Texts::tr("Save Anyway") : Texts::tr("Overwrite"), QMessageBox::AcceptRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    if (box.clickedButton() != yes)
+    if (!box.isConfirmed(losing ? Texts::tr("Save Anyway") : Texts::tr("Overwrite"), QMessageBox::AcceptRole))
         return {};
     return losing ? DocumentFile::AcceptLosses : DocumentFile::OverwriteOthersChanges;
 }

@@ -5,10 +5,10 @@
 #include "workbench/FileCommands.h"
 #include "workbench/journal/Journal.h"
 #include "workbench/journal/Recovery.h"
+#include "workbench/PlainMessage.h"
 
 #include <QAction>
 #include <QMenu>
-#include <QMessageBox>
 
 RecoveryCommands::RecoveryCommands(const Workspace &workspace, FileCommands *files, Journal *journal,
                                    QObject *parent)
@@ -43,9 +43,7 @@ void RecoveryCommands::recover(const QString &journalPath)
     const QString problem = Recovery::recover(journalPath, m_workspace.document, m_journal);
     if (problem.isEmpty())
         return;
-    QMessageBox box(QMessageBox::Critical, tr("Quillon Workbench"), tr("The changes cannot be recovered."),
-                    QMessageBox::Ok, m_workspace.window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(problem);
-    box.exec();
+    PlainMessage(QMessageBox::Critical, tr("Quillon Workbench"), tr("The changes cannot be recovered."),
+                 problem, QMessageBox::Ok, m_workspace.window)
+        .exec();
 }

@@ -7,6 +7,7 @@
 #include "workbench/operations/Areas.h"
 #include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
+#include "workbench/PlainMessage.h"
 #include "workbench/Progress.h"
 #include "workbench/proxies/AreaTreeProxy.h"
 #include "workbench/SourceFiles.h"
@@ -20,7 +21,6 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QSortFilterProxyModel>
@@ -202,11 +202,10 @@ bool AreaSelectionDialog::save(const QString &path)
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return true;
-    QMessageBox box(QMessageBox::Critical, windowTitle(),
-                    tr("“%1” cannot be written.").arg(QDir::toNativeSeparators(path)), QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(file.errorString());
-    box.exec();
+    PlainMessage(QMessageBox::Critical, windowTitle(),
+                 tr("“%1” cannot be written.").arg(QDir::toNativeSeparators(path)), file.errorString(),
+                 QMessageBox::Ok, this)
+        .exec();
     return false;
 }
 

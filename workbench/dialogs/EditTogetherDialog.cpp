@@ -4,6 +4,7 @@
 #include "workbench/Actions.h"
 #include "workbench/Document.h"
 #include "workbench/panels/Widgets.h"
+#include "workbench/PlainMessage.h"
 #include "workbench/Selection.h"
 
 #include <QAction>
@@ -13,7 +14,6 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -201,12 +201,10 @@ void EditTogetherDialog::accept()
     QDialog::accept();
     if (refused.isEmpty())
         return;
-    auto *report =
-        new QMessageBox(QMessageBox::Warning, tr("Edit Variables Together"),
-                        tr("Not everything could be written:"), QMessageBox::Ok, m_workspace.window);
+    auto *report = new PlainMessage(QMessageBox::Warning, tr("Edit Variables Together"),
+                                    tr("Not everything could be written:"), refused.join(u'\n'),
+                                    QMessageBox::Ok, m_workspace.window);
     report->setObjectName(u"editTogetherReport"_s);
     report->setAttribute(Qt::WA_DeleteOnClose);
-    report->setTextFormat(Qt::PlainText);
-    report->setInformativeText(refused.join(u'\n'));
     report->open();
 }

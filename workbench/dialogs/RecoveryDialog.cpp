@@ -1,12 +1,13 @@
 #include "workbench/dialogs/RecoveryDialog.h"
 
+#include "workbench/PlainMessage.h"
+
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -94,15 +95,10 @@ void RecoveryDialog::recoverCurrent()
 
 void RecoveryDialog::removeCurrent()
 {
-    QMessageBox box(QMessageBox::Warning, tr("Delete unsaved changes"),
-                    tr("Delete the unsaved changes to “%1”?").arg(m_list->currentItem()->text(Dictionary)),
-                    QMessageBox::Cancel, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(tr("They cannot be had again."));
-    const QAbstractButton *yes = box.addButton(tr("Delete"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    if (box.clickedButton() != yes)
+    PlainMessage box(QMessageBox::Warning, tr("Delete unsaved changes"),
+                     tr("Delete the unsaved changes to “%1”?").arg(m_list->currentItem()->text(Dictionary)),
+                     tr("They cannot be had again."), QMessageBox::Cancel, this);
+    if (!box.isConfirmed(tr("Delete")))
         return;
     Q_EMIT remove(current());
     delete m_list->currentItem();

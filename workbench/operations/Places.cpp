@@ -35,14 +35,6 @@ TDcEntity *Places::parentOf(TDcEntity *root, const TDcEntity *entity)
     });
 }
 
-TDcEntity *Places::entityOf(TDcEntity *root, const TDcVariable *variable)
-{
-    return firstEntity(root, [variable](const TDcEntity *candidate) {
-        return std::any_of(candidate->getVariables()->cbegin(), candidate->getVariables()->cend(),
-                           [variable](const TDcVariable *member) { return member == variable; });
-    });
-}
-
 QList<qsizetype> Places::rowsOf(TDcEntity *root, const TDcEntity *entity)
 {
     QList<qsizetype> rows;

@@ -13,8 +13,6 @@ namespace Places
 [[nodiscard]] bool holds(TDcEntity *root, const TDcEntity *entity);
 /// The entity that \a entity is a child of; null for \a root and for what is not below it.
 [[nodiscard]] TDcEntity *parentOf(TDcEntity *root, const TDcEntity *entity);
-/// The entity whose variable \a variable is; null when there is none.
-[[nodiscard]] TDcEntity *entityOf(TDcEntity *root, const TDcVariable *variable);
 
 /// Where \a entity stands: rows from \a root, which has none, down.
 [[nodiscard]] QList<qsizetype> rowsOf(TDcEntity *root, const TDcEntity *entity);

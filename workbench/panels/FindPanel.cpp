@@ -4,7 +4,6 @@
 #include "model/TDcVariable.h"
 #include "workbench/Actions.h"
 #include "workbench/Document.h"
-#include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
 #include "workbench/Selection.h"
 
@@ -16,7 +15,6 @@
 #include <QLineEdit>
 #include <QShortcut>
 #include <QStandardItemModel>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -34,12 +32,11 @@ constexpr auto quiet = 150ms;
 FindPanel::FindPanel(const Workspace &workspace, QWidget *parent)
     : QWidget(parent), m_workspace(workspace),
       m_field(Widgets::filterField(tr("Find in the dictionary"), tr("Find in the whole dictionary"), this)),
-      m_summary(new QLabel(this)), m_model(new QStandardItemModel(this)),
-      m_matchCase(new QCheckBox(tr("Match case"), this)), m_wholeWords(new QCheckBox(tr("Whole words"), this))
+      m_summary(new QLabel(this)), m_view(new EmptyText<QTableView>(this)),
+      m_model(new QStandardItemModel(this)), m_matchCase(new QCheckBox(tr("Match case"), this)),
+      m_wholeWords(new QCheckBox(tr("Whole words"), this))
 {
     setObjectName(u"findPanel"_s);
-    auto *table = new EmptyText<QTableView>(this);
-    m_view = table;
     m_view->setModel(m_model);
     Widgets::setUpTable(m_view, tr("Found"));
     m_view->setSortingEnabled(false);
@@ -174,7 +171,7 @@ void FindPanel::list(const Find &found)
         m_view->setCurrentIndex(m_model->index(qBound(0, m_row, int(m_hits.size()) - 1), Match));
 
     const bool asked = !m_field->text().trimmed().isEmpty();
-    static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(
+    m_view->setEmptyText(
         asked ? tr("Nothing found.")
               : tr("Type what to find: names, aliases, labels, groups, codes or value labels."));
     m_summary->setText(!asked ? QString()

@@ -2,9 +2,11 @@
 
 #include "workbench/operations/Find.h"
 #include "workbench/panels/ColumnMemory.h"
+#include "workbench/panels/EmptyText.h"
 #include "workbench/Workspace.h"
 
 #include <QList>
+#include <QTableView>
 #include <QTimer>
 #include <QWidget>
 
@@ -16,7 +18,6 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QStandardItemModel;
-class QTableView;
 
 /// Finds text in the whole dictionary and lists where, while a person types. Going to a hit selects it in the
 /// other panels.
@@ -60,7 +61,7 @@ private:
     Workspace m_workspace;
     QLineEdit *m_field;
     QLabel *m_summary;
-    QTableView *m_view;
+    EmptyText<QTableView> *m_view;
     QStandardItemModel *m_model;
     QCheckBox *m_matchCase;
     QCheckBox *m_wholeWords;

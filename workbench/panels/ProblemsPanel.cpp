@@ -1,7 +1,6 @@
 #include "workbench/panels/ProblemsPanel.h"
 
 #include "documents/checks/DictionaryCheck.h"
-#include "workbench/panels/EmptyText.h"
 #include "workbench/panels/FindingsModel.h"
 #include "workbench/panels/Widgets.h"
 
@@ -9,7 +8,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSortFilterProxyModel>
-#include <QTableView>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -113,10 +111,9 @@ void ProblemsPanel::filter()
 
 void ProblemsPanel::updateEmptyText()
 {
-    static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(m_checking ? tr("Looking for problems…")
-                                                                   : m_model->rowCount() > 0
-                                                                   ? tr("No problems of this severity.")
-                                                                   : DictionaryCheck::summary({}));
+    m_view->setEmptyText(m_checking                    ? tr("Looking for problems…")
+                             : m_model->rowCount() > 0 ? tr("No problems of this severity.")
+                                                       : DictionaryCheck::summary({}));
 }
 
 void ProblemsPanel::choose(const QModelIndex &index)

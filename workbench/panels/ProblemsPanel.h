@@ -2,8 +2,10 @@
 
 #include "documents/checks/Finding.h"
 #include "workbench/panels/ColumnMemory.h"
+#include "workbench/panels/EmptyText.h"
 
 #include <QList>
+#include <QTableView>
 #include <QWidget>
 
 #include <memory>
@@ -12,7 +14,6 @@ class FindingsModel;
 class QComboBox;
 class QLabel;
 class QSortFilterProxyModel;
-class QTableView;
 
 /// What the checks found: a table to sort and to filter by severity. Whoever shows the places of the
 /// dictionary listens to chosen().
@@ -48,7 +49,7 @@ private:
     QSortFilterProxyModel *m_proxy;
     QLabel *m_summary;
     QComboBox *m_severities;
-    QTableView *m_view;
+    EmptyText<QTableView> *m_view;
     bool m_checking = false;
     std::unique_ptr<ColumnMemory> m_columns;
 };

@@ -8,7 +8,7 @@
 /// another index. Above this proxy, views, persistent indexes and sorting proxies work as usual.
 ///
 /// The tree models do not observe the objects that they show. Whoever adds, removes or moves some of them
-/// does it between beginTreeChange() and endTreeChange().
+/// shows the tree anew.
 class RealRowProxy : public QIdentityProxyModel
 {
     Q_OBJECT
@@ -20,7 +20,4 @@ public:
 
     /// The index that shows \a object; invalid when the tree does not hold it. A search.
     [[nodiscard]] QModelIndex indexOf(const void *object) const;
-
-    void beginTreeChange() { beginResetModel(); }
-    void endTreeChange() { endResetModel(); }
 };
