@@ -26,6 +26,7 @@ private Q_SLOTS:
     void offersTheVariablesForRoles();
     void clearingTheMarkAsksForThoseBelow_data();
     void clearingTheMarkAsksForThoseBelow();
+    void withoutACodeNothingIsSelectable();
     void showsWhatWasUndone();
     void lookingAtNotesIsNoEdit();
     void forgetsWhatIsTypedWhenTheStructureChanges();
@@ -180,6 +181,26 @@ void TestEntityForm::clearingTheMarkAsksForThoseBelow()
     QCOMPARE(boxes.shown().size(), 1);
     m_bench->document.commit();
     QCOMPARE(stack()->count(), stays ? 0 : 1);
+}
+
+void TestEntityForm::withoutACodeNothingIsSelectable()
+{
+    TDcEntity *person = m_bench->entity(u"PERSON"_s);
+    person->setRefCode(u"AGE"_s);
+    person->setSelectable(true);
+    m_bench->document.commit();
+    stack()->clear();
+    auto *code = m_bench->control<QLineEdit>(u"Reference code variable"_s);
+    m_bench->type(code, u"SEX"_s);
+    QVERIFY(person->getSelectable());
+    code->clear();
+    QTest::keyClick(code, Qt::Key_Return);
+    QCOMPARE(person->getRefCode(), QString());
+    QVERIFY(!person->getSelectable());
+    QVERIFY(!m_bench->control<QCheckBox>(u"Selectable"_s)->isChecked());
+    stack()->undo();
+    QCOMPARE(person->getRefCode(), u"SEX"_s);
+    QVERIFY(person->getSelectable());
 }
 
 void TestEntityForm::showsWhatWasUndone()

@@ -4,14 +4,19 @@
 #include "documents/DictionaryCopy.h"
 #include "model/TDcEntity.h"
 #include "model/TDcVariable.h"
+#include "workbench/operations/ListEdits.h"
 #include "workbench/operations/NewNames.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
+#include <utility>
 
 namespace
 {
 using VariableEdits::Role;
+
+constexpr Role roles[] = {Role::RefCode, Role::RefLabel, Role::Weight};
 
 QString roleName(const TDcEntity &entity, Role role)
 {
@@ -26,19 +31,11 @@ QString roleName(const TDcEntity &entity, Role role)
     Q_UNREACHABLE();
 }
 
-void setRoleName(TDcEntity &entity, Role role, const QString &name)
+bool anyHas(const TDcEntity &entity, const QList<TDcVariable *> &variables, Role role)
 {
-    switch (role) {
-    case Role::RefCode:
-        entity.setRefCode(name);
-        break;
-    case Role::RefLabel:
-        entity.setRefLabel(name);
-        break;
-    case Role::Weight:
-        entity.setWeightVariable(name);
-        break;
-    }
+    return std::any_of(variables.cbegin(), variables.cend(), [&entity, role](const TDcVariable *variable) {
+        return VariableEdits::has(entity, *variable, role);
+    });
 }
 } // namespace
 
@@ -82,6 +79,19 @@ QList<TDcVariable *> VariableEdits::duplicate(TDcEntity *root, TDcEntity *entity
     return copies;
 }
 
+void VariableEdits::remove(TDcEntity &entity, const QList<TDcVariable *> &variables)
+{
+    QList<Role> concerned;
+    std::copy_if(std::begin(roles), std::end(roles), std::back_inserter(concerned),
+                 [&](Role role) { return anyHas(entity, variables, role); });
+    QList<TDcVariable *> &all = *entity.getVariables();
+    ListEdits::remove(all, variables);
+    for (Role role : std::as_const(concerned)) {
+        if (!anyHas(entity, all, role)) // Names may be there twice.
+            setRole(entity, role, {});
+    }
+}
+
 bool VariableEdits::has(const TDcEntity &entity, const TDcVariable &variable, Role role)
 {
     const QString name = variable.getName().trimmed();
@@ -90,8 +100,22 @@ bool VariableEdits::has(const TDcEntity &entity, const TDcVariable &variable, Ro
 
 void VariableEdits::toggle(TDcEntity &entity, const TDcVariable &variable, Role role)
 {
-    const bool taken = has(entity, variable, role);
-    setRoleName(entity, role, taken ? QString() : variable.getName().trimmed());
-    if (taken && role == Role::RefCode)
-        entity.setSelectable(false);
+    setRole(entity, role, has(entity, variable, role) ? QString() : variable.getName().trimmed());
+}
+
+void VariableEdits::setRole(TDcEntity &entity, Role role, const QString &name)
+{
+    switch (role) {
+    case Role::RefCode:
+        entity.setRefCode(name);
+        if (name.trimmed().isEmpty())
+            entity.setSelectable(false);
+        break;
+    case Role::RefLabel:
+        entity.setRefLabel(name);
+        break;
+    case Role::Weight:
+        entity.setWeightVariable(name);
+        break;
+    }
 }

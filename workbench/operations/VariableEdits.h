@@ -20,9 +20,14 @@ TDcVariable *add(TDcEntity *entity, const QString &name);
 TDcVariable *add(TDcEntity *entity, const QString &name, int tag);
 /// Adds a copy of each of \a variables at the end, with free names and without alias.
 QList<TDcVariable *> duplicate(TDcEntity *root, TDcEntity *entity, const QList<TDcVariable *> &variables);
+/// Takes \a variables out of \a entity and deletes them. A role that no variable is left for is nobody's
+/// then.
+void remove(TDcEntity &entity, const QList<TDcVariable *> &variables);
 
 [[nodiscard]] bool has(const TDcEntity &entity, const TDcVariable &variable, Role role);
-/// Gives \a role to \a variable alone, or takes it away if it has it. An entity that loses its reference code
-/// is not selectable any more.
+/// Gives \a role to \a variable alone, or takes it away if it has it.
 void toggle(TDcEntity &entity, const TDcVariable &variable, Role role);
+/// Gives \a role to the variable called \a name; empty for none. An entity that loses its reference code is
+/// not selectable any more.
+void setRole(TDcEntity &entity, Role role, const QString &name);
 } // namespace VariableEdits

@@ -5,6 +5,7 @@
 #include "models/DictionaryTreeModel.h"
 #include "workbench/Document.h"
 #include "workbench/operations/EntityEdits.h"
+#include "workbench/operations/VariableEdits.h"
 #include "workbench/panels/PropertyForm.h"
 #include "workbench/panels/Widgets.h"
 #include "workbench/proxies/RealRowProxy.h"
@@ -59,15 +60,19 @@ void EntityForm::build()
                    m_form->text(tr("Entity label"), get<&E::getLabel>(), set<&E::setLabel, QString>()));
     m_form->addRow(tr("Alias"),
                    m_form->text(tr("Entity alias"), get<&E::getAlias>(), set<&E::setAlias, QString>()));
-    m_form->addRow(tr("Code"),
-                   offerVariables(m_form->text(tr("Reference code variable"), get<&E::getRefCode>(),
-                                               set<&E::setRefCode, QString>())));
+    const auto setRole = [this](VariableEdits::Role role) {
+        return [this, role](const QString &name) { VariableEdits::setRole(*m_entity, role, name); };
+    };
+    using enum VariableEdits::Role;
+    m_form->addRow(
+        tr("Code"),
+        offerVariables(m_form->text(tr("Reference code variable"), get<&E::getRefCode>(), setRole(RefCode))));
     m_form->addRow(tr("Text"),
                    offerVariables(m_form->text(tr("Reference label variable"), get<&E::getRefLabel>(),
-                                               set<&E::setRefLabel, QString>())));
-    m_form->addRow(tr("Weight"),
-                   offerVariables(m_form->text(tr("Weight variable"), get<&E::getWeightVariable>(),
-                                               set<&E::setWeightVariable, QString>())));
+                                               setRole(RefLabel))));
+    m_form->addRow(
+        tr("Weight"),
+        offerVariables(m_form->text(tr("Weight variable"), get<&E::getWeightVariable>(), setRole(Weight))));
     m_form->addRow(
         {},
         m_form->check(tr("Selectable"), get<&E::getSelectable>(),

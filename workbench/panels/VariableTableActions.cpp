@@ -114,7 +114,7 @@ void VariableTablePanel::removeVariables()
     TDcEntity *entity = m_workspace.selection->entity();
     const QList<TDcVariable *> variables = m_workspace.selection->variables();
     const QString text = stepText(tr("removing %1"), tr("removing %L1 variables"), variables);
-    m_workspace.document->edit(text, [&] { ListEdits::remove(*entity->getVariables(), variables); });
+    m_workspace.document->edit(text, [&] { VariableEdits::remove(*entity, variables); });
 }
 
 void VariableTablePanel::moveVariables(bool up)
