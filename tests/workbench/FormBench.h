@@ -21,6 +21,16 @@ struct FormBench : Bench {
         form.activateWindow();
     }
 
+    /// Lets the keys for undo and redo do so, as the window does.
+    void addUndo()
+    {
+        for (ActionId id : {ActionId::EditUndo, ActionId::EditRedo}) {
+            form.addAction(actions[id]);
+            QObject::connect(actions[id], &QAction::triggered, document.undoStack(),
+                             id == ActionId::EditUndo ? &QUndoStack::undo : &QUndoStack::redo);
+        }
+    }
+
     [[nodiscard]] bool isActive() { return QTest::qWaitForWindowActive(&form); }
 
     /// Null when no control of this kind has the name.

@@ -377,14 +377,16 @@ QString wrongSelection(MainWindow &window)
 }
 
 /// What of a saved dictionary came back otherwise, levels of variables aside, which no document holds, and
-/// where a field starts and how long it is, which one variable has twice and a document once.
+/// lengths of layouts, which an import leaves out beside the field size.
 QString lostBySaving(const TDcEntity &saved, const TDcEntity &opened)
 {
-    static const QStringList unkept{u"level"_s, u"position"_s, u"start"_s, u"length"_s, u"field size"_s};
+    static const QStringList unkept{u"level"_s, u"length"_s};
     const QList<DictionaryChange> changes = DictionaryDifference::between(saved, opened).changes();
     QStringList lost;
     for (const DictionaryChange &change : changes) {
-        if (change.kind != DictionaryChange::Kind::Changed || !unkept.contains(change.property))
+        // A text variable of no size is written as one of size 1.
+        const bool grown = change.property == "size"_L1 && change.before == 0 && change.after == 1;
+        if (change.kind != DictionaryChange::Kind::Changed || !(grown || unkept.contains(change.property)))
             lost.append(change.text());
     }
     return lost.join(u'\n');

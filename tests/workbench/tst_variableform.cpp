@@ -25,6 +25,14 @@ private Q_SLOTS:
 
     void writesEachProperty_data();
     void writesEachProperty();
+    void writesThePlaceForReaderAndWriter_data();
+    void writesThePlaceForReaderAndWriter();
+    void showsThePlaceThatIsKnown_data();
+    void showsThePlaceThatIsKnown();
+    void undoBelongsToTheDocument_data();
+    void undoBelongsToTheDocument();
+    void undoBelongsToTheFieldWhileItIsTypedInto_data();
+    void undoBelongsToTheFieldWhileItIsTypedInto();
     void makesALayoutWhenItIsNeeded();
     void comesBackFromItsFile_data();
     void comesBackFromItsFile();
@@ -40,6 +48,11 @@ private Q_SLOTS:
     void forgetsWhatIsTypedWhenTheVariableGoes();
 
 private:
+    void addControls();
+    /// Types \a text into the control called \a name, leaves it and comes back.
+    void enter(const QString &name, const QString &text);
+    [[nodiscard]] QString shown(const QString &name) const;
+    void press(const QString &name, const QKeySequence &keys);
     [[nodiscard]] QUndoStack *stack() const { return m_bench->document.undoStack(); }
     [[nodiscard]] TDcVariable *age() const { return m_bench->entity(u"PERSON"_s)->getVariables()->at(1); }
 
@@ -72,10 +85,6 @@ void TestVariableForm::writesEachProperty_data()
                                          {"Not-applicable code", "not-applicable code"},
                                          {"Record", "record"},
                                          {"Field", "field"},
-                                         {"Start", "start"},
-                                         {"Length", "length"},
-                                         {"Field size", "field size"},
-                                         {"Field position", "position"},
                                          {"File name", "file name"},
                                          {"Lookup", "lookup"},
                                          {"Local", "local"},
@@ -124,6 +133,161 @@ void TestVariableForm::writesEachProperty()
     QVERIFY(DictionaryDifference::between(*before, *m_bench->document.root()).isEmpty());
 }
 
+void TestVariableForm::writesThePlaceForReaderAndWriter_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("typed");
+    QTest::addColumn<QList<int>>("expected"); // Start and length of the layout, position and field size.
+    QTest::addColumn<QString>("step");
+    QTest::addRow("start") << u"Start"_s << 47 << QList({47, 3, 47, 3}) << u"start of AGE"_s;
+    QTest::addRow("the first place, which documents leave out")
+        << u"Start"_s << 1 << QList({0, 3, 1, 3}) << u"start of AGE"_s;
+    QTest::addRow("no place") << u"Start"_s << 0 << QList({0, 3, 1, 3}) << u"start of AGE"_s;
+    QTest::addRow("before the first") << u"Start"_s << -4 << QList({0, 3, 1, 3}) << u"start of AGE"_s;
+    QTest::addRow("length") << u"Length"_s << 8 << QList({12, 8, 12, 8}) << u"length of AGE"_s;
+    QTest::addRow("no length") << u"Length"_s << 0 << QList({12, 0, 12, 0}) << u"length of AGE"_s;
+}
+
+void TestVariableForm::writesThePlaceForReaderAndWriter()
+{
+    QFETCH(const QString, name);
+    QFETCH(const int, typed);
+    QFETCH(const QList<int>, expected);
+    QFETCH(const QString, step);
+    const auto places = [this] {
+        const MetadataVariables *layout = age()->getMetadataVariables();
+        return QList{layout->getStart(), layout->getLength(), age()->getFieldRelativePosition(),
+                     age()->getFieldSize()};
+    };
+    age()->setMetadataVariables(new MetadataVariables);
+    age()->getMetadataVariables()->setStart(12);
+    age()->getMetadataVariables()->setLength(3);
+    age()->setFieldRelativePosition(12);
+    age()->setFieldSize(3);
+    m_bench->document.commit();
+    stack()->clear();
+    enter(name, QString::number(typed));
+    QCOMPARE(places(), expected);
+    QCOMPARE(stack()->count(), 1);
+    QCOMPARE(stack()->undoText(), step);
+    QCOMPARE(shown(name), QString::number(name == u"Start"_s ? expected.at(2) : expected.at(3)));
+    stack()->undo();
+    QCOMPARE(places(), QList({12, 3, 12, 3}));
+}
+
+void TestVariableForm::showsThePlaceThatIsKnown_data()
+{
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QString>("shown");
+    QTest::addRow("as read by the layer alone") << 12 << 1 << u"12"_s;
+    QTest::addRow("the variable's, where the layout has none") << 0 << 7 << u"7"_s;
+    QTest::addRow("none") << 0 << 1 << u"1"_s;
+}
+
+void TestVariableForm::showsThePlaceThatIsKnown()
+{
+    QFETCH(const int, start);
+    QFETCH(const int, position);
+    QCOMPARE(this->shown(u"Start"_s), u"1"_s); // Without a layout.
+    age()->setMetadataVariables(new MetadataVariables);
+    age()->getMetadataVariables()->setStart(start);
+    age()->setFieldRelativePosition(position);
+    m_bench->document.commit();
+    QTEST(this->shown(u"Start"_s), "shown");
+}
+
+void TestVariableForm::addControls()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("typed");
+    QTest::addRow("line") << u"Label"_s << u"Age"_s << u"Years"_s;
+    QTest::addRow("number") << u"Size"_s << u"0"_s << u"4"_s;
+    QTest::addRow("choice") << u"Type"_s << QString() << u"date"_s;
+    QTest::addRow("notes") << u"Documentation"_s << QString() << u"Asked"_s;
+}
+
+void TestVariableForm::enter(const QString &name, const QString &text)
+{
+    auto *control = m_bench->control<QWidget>(name);
+    control->setFocus();
+    press(name, QKeySequence::SelectAll);
+    QTest::keyClicks(control, text);
+    control->clearFocus();
+    control->setFocus();
+}
+
+QString TestVariableForm::shown(const QString &name) const
+{
+    if (const auto *number = m_bench->control<QSpinBox>(name))
+        return number->text();
+    if (const auto *choice = m_bench->control<QComboBox>(name))
+        return choice->currentText();
+    if (const auto *notes = m_bench->control<QPlainTextEdit>(name))
+        return notes->toPlainText();
+    return m_bench->control<QLineEdit>(name)->text();
+}
+
+void TestVariableForm::press(const QString &name, const QKeySequence &keys)
+{
+    const QKeyCombination key = keys[0];
+    QTest::keyClick(m_bench->control<QWidget>(name), key.key(), key.keyboardModifiers());
+}
+
+void TestVariableForm::undoBelongsToTheDocument_data()
+{
+    addControls();
+}
+
+void TestVariableForm::undoBelongsToTheDocument()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, before);
+    QFETCH(const QString, typed);
+    m_bench->addUndo();
+    enter(name, typed);
+    QCOMPARE(stack()->index(), 1);
+    // Whatever was done last, here or elsewhere.
+    m_bench->variable(u"SEX"_s)->setLabel(u"Gender"_s);
+    m_bench->document.commit();
+    QCOMPARE(stack()->index(), 2);
+    press(name, QKeySequence::Undo);
+    QCOMPARE(stack()->index(), 1);
+    QCOMPARE(shown(name), typed);
+    press(name, QKeySequence::Undo);
+    QCOMPARE(stack()->index(), 0);
+    QCOMPARE(shown(name), before);
+    press(name, QKeySequence::Redo);
+    QCOMPARE(stack()->index(), 1);
+    QCOMPARE(shown(name), typed);
+    m_bench->control<QWidget>(name)->clearFocus();
+    QCOMPARE(stack()->count(), 2);
+}
+
+void TestVariableForm::undoBelongsToTheFieldWhileItIsTypedInto_data()
+{
+    addControls();
+}
+
+void TestVariableForm::undoBelongsToTheFieldWhileItIsTypedInto()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, typed);
+    m_bench->addUndo();
+    enter(name, typed);
+    press(name, QKeySequence::MoveToEndOfLine);
+    QTest::keyClicks(m_bench->control<QWidget>(name), u"7"_s);
+    QCOMPARE(shown(name), QString(typed + u'7'));
+    // Back to what was entered, not to what stood there before.
+    press(name, QKeySequence::Undo);
+    QCOMPARE(shown(name), typed);
+    QCOMPARE(stack()->index(), 1);
+    press(name, QKeySequence::Undo);
+    QCOMPARE(stack()->index(), 0);
+    QCOMPARE(stack()->count(), 1);
+}
+
 void TestVariableForm::makesALayoutWhenItIsNeeded()
 {
     QVERIFY(!age()->getMetadataVariables());
@@ -142,7 +306,7 @@ void TestVariableForm::makesALayoutWhenItIsNeeded()
 void TestVariableForm::comesBackFromItsFile_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"Decimals", "Field size", "Field position", "Start", "Length", "Size", "Tag"})
+    for (const char *name : {"Decimals", "Start", "Length", "Size", "Tag"})
         QTest::addRow("%s", name) << QString::fromLatin1(name);
 }
 

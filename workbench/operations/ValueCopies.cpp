@@ -2,9 +2,8 @@
 
 #include "documents/DictionaryCopy.h"
 #include "documents/DictionaryEquality.h"
-#include "model/MetadataVariables.h"
-#include "model/TDcVariable.h"
 #include "model/ValueLabelElement.h"
+#include "workbench/operations/Layouts.h"
 
 #include <QSet>
 
@@ -14,12 +13,6 @@
 
 namespace
 {
-QList<Range *> rangesOf(const TDcVariable &variable)
-{
-    const MetadataVariables *layout = variable.getMetadataVariables();
-    return layout ? *layout->getRange() : QList<Range *>();
-}
-
 /// What tells one item of a variable from another.
 QString keyOf(const ValueLabelElement &element)
 {
@@ -60,12 +53,10 @@ void copyTo(TDcVariable &target, const TDcVariable &source, const ValueCopies::W
     if (what.valueLabels
         && !(what.replace && equal(*source.getValueLabelElementList(), *target.getValueLabelElementList())))
         copyItems(*source.getValueLabelElementList(), *target.getValueLabelElementList(), what.replace);
-    const bool same = what.replace ? equal(rangesOf(source), rangesOf(target)) : rangesOf(source).isEmpty();
-    if (what.ranges && !same) {
-        if (!target.getMetadataVariables())
-            target.setMetadataVariables(new MetadataVariables);
-        copyItems(rangesOf(source), *target.getMetadataVariables()->getRange(), what.replace);
-    }
+    const bool same = what.replace ? equal(Layouts::ranges(source), Layouts::ranges(target))
+                                   : Layouts::ranges(source).isEmpty();
+    if (what.ranges && !same)
+        copyItems(Layouts::ranges(source), *Layouts::of(target).getRange(), what.replace);
     if (what.missing) {
         target.setMissing(source.getMissing());
         target.setNotappl(source.getNotappl());
@@ -102,9 +93,9 @@ QString ValueCopies::preview(const TDcVariable &source, const QList<TDcVariable 
             continue;
         ++changed;
         const QList<ValueLabelElement *> &labels = *target->getValueLabelElementList();
-        const QList<Range *> ranges = rangesOf(*target);
+        const QList<Range *> ranges = Layouts::ranges(*target);
         labelled += what.replace && !labels.isEmpty() && !equal(labels, *after->getValueLabelElementList());
-        ranged += what.replace && !ranges.isEmpty() && !equal(ranges, rangesOf(*after));
+        ranged += what.replace && !ranges.isEmpty() && !equal(ranges, Layouts::ranges(*after));
     }
     if (changed == 0)
         return tr("Nothing will change.");

@@ -1,8 +1,7 @@
 #include "workbench/operations/VariableProperties.h"
 
 #include "common/Constants.h"
-#include "model/MetadataVariables.h"
-#include "model/TDcVariable.h"
+#include "workbench/operations/Layouts.h"
 
 #include <algorithm>
 
@@ -30,17 +29,48 @@ constexpr VariableProperty ofLayout(const char *name, Kind kind)
                 return QVariant(layout ? (layout->*getter)() : Value());
             },
             [](TDcVariable &variable, const QVariant &value) {
-                if (!variable.getMetadataVariables())
-                    variable.setMetadataVariables(new MetadataVariables);
-                (variable.getMetadataVariables()->*setter)(value.value<Value>());
+                (Layouts::of(variable).*setter)(value.value<Value>());
             }};
 }
 
+/// Where the values begin in their record. The layout keeps it as it is read, where 0 is the first place, and
+/// the variable as it is written.
+QVariant start(const TDcVariable &variable)
+{
+    const MetadataVariables *layout = variable.getMetadataVariables();
+    const int kept = layout ? layout->getStart() : 0;
+    return kept > 0 ? kept : variable.getFieldRelativePosition();
+}
+
+void setStart(TDcVariable &variable, const QVariant &value)
+{
+    const int place = std::max(1, value.toInt());
+    Layouts::of(variable).setStart(place > 1 ? place : 0);
+    variable.setFieldRelativePosition(place);
+}
+
+/// How many places the values take there. It is read into both, and written from the variable.
+QVariant length(const TDcVariable &variable)
+{
+    return variable.getFieldSize();
+}
+
+void setLength(TDcVariable &variable, const QVariant &value)
+{
+    Layouts::of(variable).setLength(value.toInt());
+    variable.setFieldSize(value.toInt());
+}
 } // namespace
 
 QString VariableProperty::title() const
 {
     return QCoreApplication::translate("VariableProperties", name);
+}
+
+QString VariableProperty::step(const TDcVariable &variable) const
+{
+    return stepName ? QCoreApplication::translate("VariableProperties", stepName).arg(variable.getName())
+                    : QString();
 }
 
 const QList<VariableProperty> &VariableProperties::all()
@@ -63,13 +93,10 @@ const QList<VariableProperty> &VariableProperties::all()
                                             Kind::Number),
         ofLayout<&M::getRecord, &M::setRecord>(QT_TRANSLATE_NOOP("VariableProperties", "Record"), Kind::Text),
         ofLayout<&M::getField, &M::setField>(QT_TRANSLATE_NOOP("VariableProperties", "Field"), Kind::Text),
-        ofLayout<&M::getStart, &M::setStart>(QT_TRANSLATE_NOOP("VariableProperties", "Start"), Kind::Number),
-        ofLayout<&M::getLength, &M::setLength>(QT_TRANSLATE_NOOP("VariableProperties", "Length"),
-                                               Kind::Number),
-        own<&V::getFieldSize, &V::setFieldSize>(QT_TRANSLATE_NOOP("VariableProperties", "Field size"),
-                                                Kind::Number),
-        own<&V::getFieldRelativePosition, &V::setFieldRelativePosition>(
-            QT_TRANSLATE_NOOP("VariableProperties", "Field position"), Kind::Number),
+        {QT_TRANSLATE_NOOP("VariableProperties", "Start"), Kind::Number, -1, start, setStart,
+         QT_TRANSLATE_NOOP("VariableProperties", "start of %1")},
+        {QT_TRANSLATE_NOOP("VariableProperties", "Length"), Kind::Number, -1, length, setLength,
+         QT_TRANSLATE_NOOP("VariableProperties", "length of %1")},
         own<&V::getFileName, &V::setFileName>(QT_TRANSLATE_NOOP("VariableProperties", "File name"),
                                               Kind::Text),
         ofLayout<&M::getLookup, &M::setLookup>(QT_TRANSLATE_NOOP("VariableProperties", "Lookup"), Kind::Flag),

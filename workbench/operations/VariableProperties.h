@@ -17,9 +17,12 @@ struct VariableProperty {
     QVariant (*get)(const TDcVariable &variable);
     /// Stores without any check. What lies in the layout makes one where there is none.
     void (*set)(TDcVariable &variable, const QVariant &value);
+    const char *stepName = nullptr; ///< See step().
 
     /// The name in the interface's language.
     [[nodiscard]] QString title() const;
+    /// Completes "Undo" for an edit of it; empty where the one thing that changes says enough.
+    [[nodiscard]] QString step(const TDcVariable &variable) const;
     /// Whether several variables may have the same value: names and aliases tell them apart.
     [[nodiscard]] bool isShared() const { return column < 0 || column > 1; }
 };

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -13,6 +14,20 @@
 #include <QSpinBox>
 
 #include <limits>
+#include <utility>
+
+namespace
+{
+/// What was typed is entered now: from here on it is undone as every step is, not letter by letter.
+void forgetTyping(QLineEdit &field)
+{
+    if (!field.isModified())
+        return;
+    const int cursor = field.cursorPosition();
+    field.setText(field.text());
+    field.setCursorPosition(cursor);
+}
+} // namespace
 
 PropertyForm::PropertyForm(QWidget *parent) : QWidget(parent), m_layout(new QFormLayout(this))
 {
@@ -51,11 +66,13 @@ QLineEdit *PropertyForm::text(const QString &name, Get<QString> get, Set<QString
     field->setAccessibleName(name);
     field->setMaxLength(std::numeric_limits<int>::max()); // Nothing is cut by being shown.
     connect(field, &QLineEdit::editingFinished, this, [=, this] { write(field->text(), get, set); });
+    watch(field, [=] { return field->text() != get(); });
     m_refreshers.append([=] {
         if (field->text() != get()) {
             field->setText(get());
             field->setCursorPosition(0);
         }
+        forgetTyping(*field);
     });
     return field;
 }
@@ -66,7 +83,7 @@ QPlainTextEdit *PropertyForm::longText(const QString &name, Get<QString> get, Se
     field->setAccessibleName(name);
     field->setTabChangesFocus(true);
     field->setMinimumHeight(field->fontMetrics().lineSpacing() * 3 + 12);
-    field->installEventFilter(this);
+    watch(field, [=] { return field->document()->isModified(); });
     connect(this, &PropertyForm::focusLeft, field, [=, this](QObject *left) {
         // Line ends and hard blanks come back otherwise than they went in; that is no edit.
         if (left == field && field->document()->isModified())
@@ -89,9 +106,12 @@ QSpinBox *PropertyForm::number(const QString &name, Get<int> get, Set<int> set)
     field->setMinimumWidth(field->fontMetrics().horizontalAdvance(u'0') * 6 + 24);
     field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     field->setFocusPolicy(Qt::StrongFocus);
-    field->installEventFilter(this);
+    watch(field, [=] { return !field->hasAcceptableInput() || field->value() != get(); });
     connect(field, &QSpinBox::editingFinished, this, [=, this] { write(field->value(), get, set); });
-    m_refreshers.append([=] { field->setValue(get()); });
+    m_refreshers.append([=] {
+        field->setValue(get());
+        forgetTyping(*field->findChild<QLineEdit *>());
+    });
     return field;
 }
 
@@ -114,7 +134,7 @@ QComboBox *PropertyForm::choice(const QString &name, const QList<QString> &choic
     field->setInsertPolicy(QComboBox::NoInsert);
     field->addItems(choices);
     field->setFocusPolicy(Qt::StrongFocus);
-    field->installEventFilter(this);
+    watch(field, [=] { return field->currentText() != get(); });
     const auto take = [=, this] { write(field->currentText(), get, set); };
     connect(field->lineEdit(), &QLineEdit::editingFinished, this, take);
     connect(field, &QComboBox::activated, this, take);
@@ -155,8 +175,23 @@ void PropertyForm::addHeading(const QString &text)
     m_layout->addRow(heading);
 }
 
+void PropertyForm::watch(QWidget *control, std::function<bool()> isTyping)
+{
+    control->installEventFilter(this);
+    m_isTyping.insert(control, std::move(isTyping));
+}
+
 bool PropertyForm::eventFilter(QObject *watched, QEvent *event)
 {
+    // While nothing is being typed there is nothing of the control's own to undo.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *key = static_cast<const QKeyEvent *>(event);
+        const bool undoes = key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
+        if (undoes && !m_suspended && !m_isTyping.value(watched)()) {
+            event->ignore();
+            return true;
+        }
+    }
     if (event->type() == QEvent::FocusOut)
         Q_EMIT focusLeft(watched);
     // The wheel scrolls the form; it changes a number only where the person works already.

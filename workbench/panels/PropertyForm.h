@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -17,7 +18,8 @@ class QSpinBox;
 ///
 /// Each control has a getter and a setter. refresh() shows what the getters say. When a person leaves a
 /// control, or presses Return in it, with another value than the getter's, the setter is called and edited()
-/// emitted; then the form is refreshed, since a setter may refuse.
+/// emitted; then the form is refreshed, since a setter may refuse. Undo and redo belong to the control only
+/// while something is being typed into it.
 class PropertyForm : public QWidget
 {
     Q_OBJECT
@@ -63,8 +65,12 @@ private:
     template <typename Value>
     void write(const Value &value, const Get<Value> &get, const Set<Value> &set);
 
+    /// Looks at the events of \a control; \a isTyping is whether it shows something else than its getter.
+    void watch(QWidget *control, std::function<bool()> isTyping);
+
     QFormLayout *m_layout;
     QList<std::function<void()>> m_refreshers;
+    QHash<QObject *, std::function<bool()>> m_isTyping;
     bool m_suspended = true; // There is no object to show.
     bool m_busy = false; // While the form writes or refreshes, its controls' signals mean nothing.
 };

@@ -4,10 +4,10 @@
 
 #include <QWidget>
 
-class MetadataVariables;
 class PropertyForm;
 class QStackedWidget;
 class TDcVariable;
+struct VariableProperty;
 
 /// All properties of the current variable in a form, ranges and value labels aside.
 class VariableForm : public QWidget
@@ -21,25 +21,16 @@ public:
 
 private:
     void build();
-    void buildLayout();
+    /// A control of the property called \a name in English.
+    [[nodiscard]] QWidget *control(QLatin1StringView name);
     void showVariable();
+    void write(const VariableProperty &property, const QVariant &value);
     /// Writes through the variable table's model, with its checks and questions.
-    void setColumn(int column, const QString &text);
-    /// The variable's layout, made when there is none yet.
-    [[nodiscard]] MetadataVariables &layout();
-
-    /// A getter of a property of the variable, or of its layout; empty or zero without one.
-    template <auto Getter>
-    [[nodiscard]] auto get() const;
-    template <auto Getter>
-    [[nodiscard]] auto getLayout() const;
-    template <auto Setter, typename Value>
-    [[nodiscard]] auto set();
-    template <auto Setter, typename Value>
-    [[nodiscard]] auto setLayout();
+    void setColumn(int column, const QVariant &value);
 
     Workspace m_workspace;
     TDcVariable *m_variable = nullptr; // Not owned.
+    QString m_step; // What the edit under way is called; empty to let the document find words.
     PropertyForm *m_form;
     QStackedWidget *m_pages;
 };
