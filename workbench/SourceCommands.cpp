@@ -4,10 +4,13 @@
 #include "documents/sources/SourceReader.h"
 #include "workbench/Actions.h"
 #include "workbench/panels/SourcesPanel.h"
+#include "workbench/panels/SourceTab.h"
 #include "workbench/Progress.h"
 #include "workbench/SourceFiles.h"
 
 #include <QAction>
+
+#include <utility>
 
 SourceCommands::SourceCommands(const Workspace &workspace, SourcesPanel *panel, QObject *parent)
     : QObject(parent), m_workspace(workspace), m_panel(panel)
@@ -32,36 +35,29 @@ void SourceCommands::choose(const QString &title, const QStringList &suffixes,
 
 bool SourceCommands::openDataset(const QString &path)
 {
-    Progress progress(tr("Reading the file…"), m_workspace.window);
-    SourceFields result = SourceReader::read(path, SourceFiles::options(progress));
-    if (!result.ok())
-        return report(result.errors);
-    m_panel->setDatasetFields(std::move(result.items));
-    return true;
+    return read(path, SourceReader::read, &SourcesPanel::setDatasetFields, m_panel->dataset());
 }
 
 bool SourceCommands::openCsv(const QString &path)
 {
-    Progress progress(tr("Reading the file…"), m_workspace.window);
-    SourceFields result = SourceReader::read(path, SourceFiles::options(progress));
-    if (!result.ok())
-        return report(result.errors);
-    m_panel->setCsvFields(std::move(result.items));
-    return true;
+    return read(path, SourceReader::read, &SourcesPanel::setCsvFields, m_panel->csv());
 }
 
 bool SourceCommands::openLookups(const QString &path)
 {
-    Progress progress(tr("Reading the file…"), m_workspace.window);
-    SourceLookups result = LookupFile::read(path, SourceFiles::options(progress));
-    if (!result.ok())
-        return report(result.errors);
-    m_panel->setLookups(std::move(result.items));
-    return true;
+    return read(path, LookupFile::read, &SourcesPanel::setLookups, m_panel->lookups());
 }
 
-bool SourceCommands::report(const QList<SourceProblem> &errors)
+template <typename Reader, typename Show>
+bool SourceCommands::read(const QString &path, Reader reader, Show show, SourceTab *tab)
 {
-    SourceFiles::report(m_workspace.window, errors);
-    return false;
+    Progress progress(tr("Reading the file…"), m_workspace.window);
+    auto result = reader(path, SourceFiles::options(progress));
+    if (!result.ok()) {
+        SourceFiles::report(m_workspace.window, result.errors);
+        return false;
+    }
+    (m_panel->*show)(std::move(result.items));
+    tab->setNotes(result.notes);
+    return true;
 }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "documents/sources/SourceOptions.h"
-#include "documents/sources/SourceResult.h"
 #include "workbench/Workspace.h"
 
 #include <QObject>
 
 class SourcesPanel;
+class SourceTab;
 
 /// Opens data files, CSV files and lookups for the sources panel.
 class SourceCommands : public QObject
@@ -26,7 +25,9 @@ private:
     /// Asks for a file that ends in one of \a suffixes and hands it to \a open.
     void choose(const QString &title, const QStringList &suffixes,
                 bool (SourceCommands::*open)(const QString &));
-    bool report(const QList<SourceProblem> &errors);
+    /// Has \a reader read the file and the panel \a show it in \a tab.
+    template <typename Reader, typename Show>
+    bool read(const QString &path, Reader reader, Show show, SourceTab *tab);
 
     Workspace m_workspace;
     SourcesPanel *m_panel; // Not owned.

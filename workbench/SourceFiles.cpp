@@ -1,12 +1,12 @@
 #include "workbench/SourceFiles.h"
 
+#include "workbench/PlainMessage.h"
 #include "workbench/Progress.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QSettings>
 
 #include <algorithm>
@@ -22,6 +22,18 @@ struct Texts {
 QString folderKey()
 {
     return u"sourceFolder"_s;
+}
+
+/// The first of \a problems are seen at once, all of them in the details.
+void list(const QList<SourceProblem> &problems, QMessageBox &box)
+{
+    constexpr qsizetype most = 5;
+    QStringList lines;
+    std::transform(problems.cbegin(), problems.cend(), std::back_inserter(lines),
+                   [](const SourceProblem &problem) { return problem.message(); });
+    box.setInformativeText(lines.mid(0, most).join(u'\n'));
+    if (lines.size() > most)
+        box.setDetailedText(lines.join(u'\n'));
 }
 } // namespace
 
@@ -52,14 +64,19 @@ void SourceFiles::report(QWidget *window, const QList<SourceProblem> &errors)
 {
     if (errors.isEmpty())
         return;
-    QStringList lines;
-    std::transform(errors.cbegin(), errors.cend(), std::back_inserter(lines),
-                   [](const SourceProblem &problem) { return problem.message(); });
-    QMessageBox box(QMessageBox::Critical, Texts::tr("Sources"), Texts::tr("The file cannot be read."),
-                    QMessageBox::Ok, window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(lines.mid(0, 5).join(u'\n'));
-    if (lines.size() > 5)
-        box.setDetailedText(lines.join(u'\n'));
+    PlainMessage box(QMessageBox::Critical, Texts::tr("Sources"), Texts::tr("The file cannot be read."), {},
+                     QMessageBox::Ok, window);
+    list(errors, box);
     box.exec();
+}
+
+void SourceFiles::showNotes(QWidget *window, const QList<SourceProblem> &notes)
+{
+    auto *box = new PlainMessage(QMessageBox::Information, Texts::tr("Sources"),
+                                 Texts::tr("The file was read, but not everything as it stands there."), {},
+                                 QMessageBox::Ok, window);
+    box->setObjectName(u"sourceNotes"_s);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    list(notes, *box);
+    box->open();
 }

@@ -19,4 +19,6 @@ namespace SourceFiles
 [[nodiscard]] SourceOptions options(Progress &progress);
 /// Says what is wrong with a source. Without \a errors it was cancelled, which the person knows.
 void report(QWidget *window, const QList<SourceProblem> &errors);
+/// Says what was read, but not as the file has it, and returns at once.
+void showNotes(QWidget *window, const QList<SourceProblem> &notes);
 } // namespace SourceFiles

@@ -117,7 +117,7 @@ void TestRangesPanel::makesALayoutForTheFirstRange()
 {
     QTest::keyClick(m_panel->view(), Qt::Key_Insert);
     QCOMPARE(held(), QStringList({u"0..0"_s}));
-    QCOMPARE(m_bench->undoText(), u"Add Range of AGE"_s);
+    QCOMPARE(m_bench->undoText(), u"adding a range to AGE"_s);
     QTest::keyClick(editor(), Qt::Key_Escape);
     m_bench->document.undoStack()->undo();
     QCOMPARE(held(), QStringList());

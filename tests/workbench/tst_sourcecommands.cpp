@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void opensGoodFiles();
     void saysWhatIsWrongAndWhere_data();
     void saysWhatIsWrongAndWhere();
+    void offersWhatWasReadOtherwise();
     void keepsWhatWasOpenWhenAFileIsDamaged();
     void aSecondFileReplacesTheFirst();
     void listsManyProblemsInTheDetails();
@@ -128,6 +130,31 @@ void TestSourceCommands::saysWhatIsWrongAndWhere()
     QVERIFY2(what.contains(place), what.toUtf8());
     for (const SourceTab *tab : {m_panel->dataset(), m_panel->csv(), m_panel->lookups()})
         QCOMPARE(shown(tab), QStringList());
+}
+
+void TestSourceCommands::offersWhatWasReadOtherwise()
+{
+    const MessageBoxAnswer boxes({u"OK"_s});
+    const auto notes = [](const SourceTab *tab) { return tab->findChild<QToolButton *>(u"notes"_s); };
+    for (const SourceTab *tab : {m_panel->dataset(), m_panel->csv(), m_panel->lookups()})
+        QVERIFY(notes(tab)->isHidden());
+    // A name twice and one that is missing.
+    QVERIFY(m_commands->openCsv(write(u"people.csv"_s, "AGE,,AGE\n12,1,3\n")));
+    QVERIFY(!notes(m_panel->csv())->isHidden());
+    QCOMPARE(notes(m_panel->csv())->text(), u"Notes (2)…"_s);
+    QVERIFY(notes(m_panel->dataset())->isHidden());
+    QCOMPARE(boxes.texts(), QStringList()); // Nobody is kept from working.
+    notes(m_panel->csv())->click();
+    QTRY_COMPARE(boxes.texts(),
+                 QStringList({u"The file was read, but not everything as it stands there."_s}));
+    QCOMPARE(boxes.shown().first().format, Qt::PlainText);
+    // They go with what they are about, and stay where it stays.
+    QVERIFY(!m_commands->openCsv(m_folder->filePath(u"missing.csv"_s)));
+    QVERIFY(!notes(m_panel->csv())->isHidden());
+    QVERIFY(m_commands->openCsv(write(u"good.csv"_s, "AGE,SEX\n12,1\n")));
+    QVERIFY(notes(m_panel->csv())->isHidden());
+    QVERIFY(m_commands->openDataset(write(u"data.csv"_s, "AGE,\n12,1\n")));
+    QCOMPARE(notes(m_panel->dataset())->text(), u"Notes (1)…"_s);
 }
 
 void TestSourceCommands::keepsWhatWasOpenWhenAFileIsDamaged()

@@ -8,11 +8,20 @@
 #include "tests/workbench/LabelledVariables.h"
 #include "tests/workbench/TsFiles.h"
 #include "workbench/operations/ExpressionCheck.h"
+#include "workbench/panels/Inspector.h"
+#include "workbench/panels/RangesPanel.h"
+#include "workbench/panels/SourcesPanel.h"
+#include "workbench/panels/SourceTab.h"
+#include "workbench/panels/ValueLabelsPanel.h"
+#include "workbench/SourceCommands.h"
 #include "workbench/Translations.h"
 
+#include <QFile>
 #include <QMenu>
 #include <QScrollArea>
 #include <QSet>
+#include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
 
@@ -53,6 +62,8 @@ private Q_SLOTS:
     void formsHaveRoomForTheirTexts();
     void reachesEveryLayer_data();
     void reachesEveryLayer();
+    void titlesEveryColumn_data();
+    void titlesEveryColumn();
     void anotherLanguageReplacesTheFirst();
     void englishIsALanguageOfItsOwn();
 
@@ -188,6 +199,48 @@ void TestTranslations::reachesEveryLayer()
     texts.append(bench.undoText());
     texts.append(QCoreApplication::translate("QWizard", "&Next >"));
     QTEST(texts, "texts");
+}
+
+void TestTranslations::titlesEveryColumn_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("titles"); // Value labels, ranges, dataset, CSV, lookups.
+    QTest::addRow("none") << u"C"_s
+                          << QStringList{u"Code Label"_s, u"Minimum Maximum"_s, u"Field Label Tag"_s,
+                                         u"Field"_s, u"Lookup"_s};
+    QTest::addRow("German") << u"de"_s
+                            << QStringList{u"Code Label"_s, u"Minimum Maximum"_s, u"Feld Label Nummer"_s,
+                                           u"Feld"_s, u"Nachschlagetabelle"_s};
+    QTest::addRow("Spanish") << u"es"_s
+                             << QStringList{u"Código Etiqueta"_s, u"Mínimo Máximo"_s,
+                                            u"Campo Etiqueta Marca"_s, u"Campo"_s, u"Tabla de consulta"_s};
+}
+
+void TestTranslations::titlesEveryColumn()
+{
+    QFETCH(const QString, language);
+    Translations::install(language);
+    MainWindow window;
+    addLabelledVariables(window);
+    auto *commands = window.findChild<SourceCommands *>();
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"units.csv"_s);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("id,label\n1,North\n") > 0);
+    file.close();
+    QVERIFY(commands->openDataset(path) && commands->openCsv(path) && commands->openLookups(path));
+    const auto *inspector = window.findChild<Inspector *>();
+    const auto *sources = window.findChild<SourcesPanel *>();
+    QStringList titles;
+    for (const QTableView *view :
+         {inspector->valueLabels()->view(), inspector->ranges()->view(), sources->dataset()->view(),
+          sources->csv()->view(), sources->lookups()->view()}) {
+        QStringList columns;
+        for (int column = 0; column < view->model()->columnCount(); ++column)
+            columns.append(view->model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        titles.append(columns.join(u' '));
+    }
+    QTEST(titles, "titles");
 }
 
 void TestTranslations::anotherLanguageReplacesTheFirst()

@@ -153,7 +153,7 @@ void TestValueLabelsPanel::addsTheNextCodeAndLetsItBeTyped()
     action(ActionId::LabelAdd)->trigger();
     QCOMPARE(age->getValueLabelElementList()->last()->getValue(), next);
     QCOMPARE(m_bench->document.undoStack()->count(), before + 1);
-    QCOMPARE(m_bench->undoText(), u"Add Value Label of AGE"_s);
+    QCOMPARE(m_bench->undoText(), u"adding a value label to AGE"_s);
     QCOMPARE(m_panel->view()->currentIndex().row(), codes.size());
     auto *editor = m_panel->view()->findChild<QLineEdit *>();
     QVERIFY(editor);
@@ -192,7 +192,7 @@ void TestValueLabelsPanel::removesSeveralByKey()
     QCOMPARE(held(), QStringList({u"2 Female"_s}));
     QCOMPARE(shown(), held());
     QCOMPARE(m_bench->document.undoStack()->count(), 1);
-    QCOMPARE(m_bench->undoText(), u"Remove Value Labels of SEX"_s);
+    QCOMPARE(m_bench->undoText(), u"removing value labels of SEX"_s);
 }
 
 void TestValueLabelsPanel::leavesDeleteToAnEditor()

@@ -2732,14 +2732,6 @@
     </message>
 </context>
 <context>
-    <name>ItemsPanel</name>
-    <message>
-        <source>%1 of %2</source>
-        <comment>an action and a variable</comment>
-        <translation>%1 bei %2</translation>
-    </message>
-</context>
-<context>
     <name>LabelSetsDialog</name>
     <message>
         <source>Identical Label Sets</source>
@@ -3031,6 +3023,26 @@
     <message>
         <source>No ranges: every value is valid.</source>
         <translation>Keine Bereiche: Jeder Wert ist gültig.</translation>
+    </message>
+    <message>
+        <source>adding a range to %1</source>
+        <translation>Hinzufügen eines Bereichs zu %1</translation>
+    </message>
+    <message>
+        <source>removing ranges of %1</source>
+        <translation>Entfernen von Bereichen von %1</translation>
+    </message>
+    <message>
+        <source>moving ranges of %1</source>
+        <translation>Verschieben von Bereichen von %1</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
     </message>
 </context>
 <context>
@@ -3392,6 +3404,10 @@
         <source>The file cannot be read.</source>
         <translation>Die Datei kann nicht gelesen werden.</translation>
     </message>
+    <message>
+        <source>The file was read, but not everything as it stands there.</source>
+        <translation>Die Datei wurde gelesen, aber nicht alles so, wie es dort steht.</translation>
+    </message>
 </context>
 <context>
     <name>SourceReader</name>
@@ -3413,6 +3429,14 @@
     <message>
         <source>Filter</source>
         <translation>Filtern</translation>
+    </message>
+    <message>
+        <source>Show what was read, but not as the file has it</source>
+        <translation>Zeigen, was anders gelesen wurde, als es in der Datei steht</translation>
+    </message>
+    <message>
+        <source>Notes (%L1)…</source>
+        <translation>Hinweise (%L1)…</translation>
     </message>
 </context>
 <context>
@@ -3448,6 +3472,22 @@
     <message>
         <source>All records</source>
         <translation>Alle Datensätze</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Lookup</source>
+        <translation>Nachschlagetabelle</translation>
     </message>
 </context>
 <context>
@@ -3746,6 +3786,26 @@
         <source>No value labels.</source>
         <translation>Keine Wertelabels.</translation>
     </message>
+    <message>
+        <source>adding a value label to %1</source>
+        <translation>Hinzufügen eines Wertelabels zu %1</translation>
+    </message>
+    <message>
+        <source>removing value labels of %1</source>
+        <translation>Entfernen von Wertelabels von %1</translation>
+    </message>
+    <message>
+        <source>moving value labels of %1</source>
+        <translation>Verschieben von Wertelabels von %1</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
 </context>
 <context>
     <name>VariableDiccionaryModel</name>
@@ -3855,40 +3915,20 @@ Soll sie es bleiben?</translation>
         <translation>&amp;Name</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
         <source>Al&amp;ias</source>
         <translation>Al&amp;ias</translation>
-    </message>
-    <message>
-        <source>Alias</source>
-        <translation>Alias</translation>
     </message>
     <message>
         <source>La&amp;bel</source>
         <translation>&amp;Label</translation>
     </message>
     <message>
-        <source>Label</source>
-        <translation>Label</translation>
-    </message>
-    <message>
         <source>&amp;Group</source>
         <translation>&amp;Gruppe</translation>
     </message>
     <message>
-        <source>Group</source>
-        <translation>Gruppe</translation>
-    </message>
-    <message>
         <source>T&amp;ype</source>
         <translation>T&amp;yp</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>Typ</translation>
     </message>
     <message>
         <source>Tag</source>
@@ -3899,10 +3939,6 @@ Soll sie es bleiben?</translation>
         <translation>G&amp;röße</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
         <source>Decimals</source>
         <translation>Dezimalstellen</translation>
     </message>
@@ -3911,16 +3947,8 @@ Soll sie es bleiben?</translation>
         <translation>&amp;Fehlend</translation>
     </message>
     <message>
-        <source>Missing-value code</source>
-        <translation>Code für fehlende Werte</translation>
-    </message>
-    <message>
         <source>Not appl.</source>
         <translation>N. zutr.</translation>
-    </message>
-    <message>
-        <source>Not-applicable code</source>
-        <translation>Code für nicht zutreffend</translation>
     </message>
     <message>
         <source>Source record</source>
@@ -3943,36 +3971,12 @@ Soll sie es bleiben?</translation>
         <translation>Länge</translation>
     </message>
     <message>
-        <source>Field size</source>
-        <translation>Feldgröße</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Position</translation>
-    </message>
-    <message>
-        <source>Field position</source>
-        <translation>Feldposition</translation>
-    </message>
-    <message>
         <source>File name</source>
         <translation>Dateiname</translation>
     </message>
     <message>
-        <source>Lookup</source>
-        <translation>Nachschlagetabelle</translation>
-    </message>
-    <message>
-        <source>Local</source>
-        <translation>Lokal</translation>
-    </message>
-    <message>
         <source>N&amp;otes</source>
         <translation>N&amp;otizen</translation>
-    </message>
-    <message>
-        <source>Documentation</source>
-        <translation>Dokumentation</translation>
     </message>
 </context>
 <context>
@@ -4034,14 +4038,6 @@ Soll sie es bleiben?</translation>
         <translation>Länge</translation>
     </message>
     <message>
-        <source>Field size</source>
-        <translation>Feldgröße</translation>
-    </message>
-    <message>
-        <source>Field position</source>
-        <translation>Feldposition</translation>
-    </message>
-    <message>
         <source>File name</source>
         <translation>Dateiname</translation>
     </message>
@@ -4056,6 +4052,14 @@ Soll sie es bleiben?</translation>
     <message>
         <source>Documentation</source>
         <translation>Dokumentation</translation>
+    </message>
+    <message>
+        <source>start of %1</source>
+        <translation>Anfang von %1</translation>
+    </message>
+    <message>
+        <source>length of %1</source>
+        <translation>Länge von %1</translation>
     </message>
 </context>
 <context>

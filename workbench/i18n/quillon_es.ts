@@ -2732,14 +2732,6 @@
     </message>
 </context>
 <context>
-    <name>ItemsPanel</name>
-    <message>
-        <source>%1 of %2</source>
-        <comment>an action and a variable</comment>
-        <translation>%1 en %2</translation>
-    </message>
-</context>
-<context>
     <name>LabelSetsDialog</name>
     <message>
         <source>Identical Label Sets</source>
@@ -3031,6 +3023,26 @@
     <message>
         <source>No ranges: every value is valid.</source>
         <translation>Sin rangos: todos los valores son válidos.</translation>
+    </message>
+    <message>
+        <source>adding a range to %1</source>
+        <translation>añadir un rango a %1</translation>
+    </message>
+    <message>
+        <source>removing ranges of %1</source>
+        <translation>eliminar rangos de %1</translation>
+    </message>
+    <message>
+        <source>moving ranges of %1</source>
+        <translation>mover rangos de %1</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Máximo</translation>
     </message>
 </context>
 <context>
@@ -3392,6 +3404,10 @@
         <source>The file cannot be read.</source>
         <translation>No se puede leer el archivo.</translation>
     </message>
+    <message>
+        <source>The file was read, but not everything as it stands there.</source>
+        <translation>Se leyó el archivo, pero no todo tal como está en él.</translation>
+    </message>
 </context>
 <context>
     <name>SourceReader</name>
@@ -3413,6 +3429,14 @@
     <message>
         <source>Filter</source>
         <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>Show what was read, but not as the file has it</source>
+        <translation>Mostrar lo que se leyó de otra forma que como está en el archivo</translation>
+    </message>
+    <message>
+        <source>Notes (%L1)…</source>
+        <translation>Notas (%L1)…</translation>
     </message>
 </context>
 <context>
@@ -3448,6 +3472,22 @@
     <message>
         <source>All records</source>
         <translation>Todos los registros</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <source>Lookup</source>
+        <translation>Tabla de consulta</translation>
     </message>
 </context>
 <context>
@@ -3746,6 +3786,26 @@
         <source>No value labels.</source>
         <translation>Sin etiquetas de valor.</translation>
     </message>
+    <message>
+        <source>adding a value label to %1</source>
+        <translation>añadir una etiqueta de valor a %1</translation>
+    </message>
+    <message>
+        <source>removing value labels of %1</source>
+        <translation>eliminar etiquetas de valor de %1</translation>
+    </message>
+    <message>
+        <source>moving value labels of %1</source>
+        <translation>mover etiquetas de valor de %1</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
 </context>
 <context>
     <name>VariableDiccionaryModel</name>
@@ -3855,40 +3915,20 @@ Keep it as RefCode?</source>
         <translation>Nom&amp;bre</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>Nombre</translation>
-    </message>
-    <message>
         <source>Al&amp;ias</source>
         <translation>Al&amp;ias</translation>
-    </message>
-    <message>
-        <source>Alias</source>
-        <translation>Alias</translation>
     </message>
     <message>
         <source>La&amp;bel</source>
         <translation>E&amp;tiqueta</translation>
     </message>
     <message>
-        <source>Label</source>
-        <translation>Etiqueta</translation>
-    </message>
-    <message>
         <source>&amp;Group</source>
         <translation>&amp;Grupo</translation>
     </message>
     <message>
-        <source>Group</source>
-        <translation>Grupo</translation>
-    </message>
-    <message>
         <source>T&amp;ype</source>
         <translation>Ti&amp;po</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>Tipo</translation>
     </message>
     <message>
         <source>Tag</source>
@@ -3899,10 +3939,6 @@ Keep it as RefCode?</source>
         <translation>Ta&amp;maño</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Tamaño</translation>
-    </message>
-    <message>
         <source>Decimals</source>
         <translation>Decimales</translation>
     </message>
@@ -3911,16 +3947,8 @@ Keep it as RefCode?</source>
         <translation>Per&amp;dido</translation>
     </message>
     <message>
-        <source>Missing-value code</source>
-        <translation>Código de valor perdido</translation>
-    </message>
-    <message>
         <source>Not appl.</source>
         <translation>No apl.</translation>
-    </message>
-    <message>
-        <source>Not-applicable code</source>
-        <translation>Código de no aplicable</translation>
     </message>
     <message>
         <source>Source record</source>
@@ -3943,36 +3971,12 @@ Keep it as RefCode?</source>
         <translation>Longitud</translation>
     </message>
     <message>
-        <source>Field size</source>
-        <translation>Tamaño del campo</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>Posición</translation>
-    </message>
-    <message>
-        <source>Field position</source>
-        <translation>Posición del campo</translation>
-    </message>
-    <message>
         <source>File name</source>
         <translation>Nombre de archivo</translation>
     </message>
     <message>
-        <source>Lookup</source>
-        <translation>Tabla de consulta</translation>
-    </message>
-    <message>
-        <source>Local</source>
-        <translation>Local</translation>
-    </message>
-    <message>
         <source>N&amp;otes</source>
         <translation>N&amp;otas</translation>
-    </message>
-    <message>
-        <source>Documentation</source>
-        <translation>Documentación</translation>
     </message>
 </context>
 <context>
@@ -4034,14 +4038,6 @@ Keep it as RefCode?</source>
         <translation>Longitud</translation>
     </message>
     <message>
-        <source>Field size</source>
-        <translation>Tamaño del campo</translation>
-    </message>
-    <message>
-        <source>Field position</source>
-        <translation>Posición del campo</translation>
-    </message>
-    <message>
         <source>File name</source>
         <translation>Nombre de archivo</translation>
     </message>
@@ -4056,6 +4052,14 @@ Keep it as RefCode?</source>
     <message>
         <source>Documentation</source>
         <translation>Documentación</translation>
+    </message>
+    <message>
+        <source>start of %1</source>
+        <translation>inicio de %1</translation>
+    </message>
+    <message>
+        <source>length of %1</source>
+        <translation>longitud de %1</translation>
     </message>
 </context>
 <context>

@@ -67,7 +67,7 @@ void copyTo(TDcVariable &target, const TDcVariable &source, const ValueCopies::W
 ValueCopies::What ValueCopies::contents(const TDcVariable &source)
 {
     return {.valueLabels = !source.getValueLabelElementList()->isEmpty(),
-            .ranges = !rangesOf(source).isEmpty(),
+            .ranges = !Layouts::ranges(source).isEmpty(),
             .missing = true};
 }
 

@@ -2,7 +2,6 @@
 
 #include "model/TDcVariable.h"
 #include "workbench/Document.h"
-#include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
 #include "workbench/Selection.h"
 
@@ -11,31 +10,29 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QSortFilterProxyModel>
-#include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-ItemsPanel::ItemsPanel(const Workspace &workspace, const QString &name, const QString &title,
+ItemsPanel::ItemsPanel(const Workspace &workspace, const QString &name, const Texts &texts,
                        QSortFilterProxyModel *proxy, Buttons buttons, QWidget *parent)
-    : QWidget(parent), m_workspace(workspace), m_buttons(buttons), m_title(new QLabel(title, this)),
-      m_proxy(proxy)
+    : QWidget(parent), m_workspace(workspace), m_view(new EmptyText<QTableView>(this)), m_texts(texts),
+      m_buttons(buttons), m_proxy(proxy)
 {
-    auto *table = new EmptyText<QTableView>(this);
-    m_view = table;
     m_columns = std::make_unique<ColumnMemory>(m_view, name);
-    Widgets::setUpTable(m_view, title);
+    Widgets::setUpTable(m_view, texts.title);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_proxy->setParent(this);
     m_view->setModel(m_proxy);
     m_view->setMinimumHeight(90);
-    QFont font = m_title->font();
+    auto *title = new QLabel(texts.title, this);
+    QFont font = title->font();
     font.setBold(true);
-    m_title->setFont(font);
-    m_title->setBuddy(m_view);
+    title->setFont(font);
+    title->setBuddy(m_view);
 
     auto *bar = new QHBoxLayout;
     bar->setSpacing(2);
-    bar->addWidget(m_title, 1);
+    bar->addWidget(title, 1);
     const Actions &actions = *workspace.actions;
     for (ActionId id : {buttons.add, buttons.remove, buttons.moveUp, buttons.moveDown}) {
         bar->addWidget(Widgets::button(actions[id], this));
@@ -89,7 +86,7 @@ void ItemsPanel::showVariable()
     const bool same = m_variable && m_variable == m_workspace.selection->variable();
     m_variable = m_workspace.selection->variable();
     // Without a variable there is nothing to say about its items.
-    static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(m_variable ? emptyText() : QString());
+    m_view->setEmptyText(m_variable ? m_texts.empty : QString());
     if (m_model)
         m_columns->take();
     m_proxy->setSourceModel(nullptr);
@@ -150,16 +147,15 @@ void ItemsPanel::select(const QList<void *> &items)
     m_view->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
-QString ItemsPanel::stepText(ActionId action) const
+void ItemsPanel::commit(const QString &text)
 {
-    return tr("%1 of %2", "an action and a variable")
-        .arg(m_workspace.actions->text(action), m_variable->getName());
+    m_workspace.document->commit(text.arg(m_variable->getName()), m_workspace.selection->entity());
 }
 
 void ItemsPanel::addRow()
 {
     add(m_variable);
-    m_workspace.document->commit(stepText(m_buttons.add), m_workspace.selection->entity());
+    commit(m_texts.adding);
     m_view->setCurrentIndex(m_proxy->mapFromSource(m_model->index(m_model->rowCount() - 1, 0)));
     m_view->setFocus();
     m_view->edit(m_view->currentIndex());
@@ -168,14 +164,13 @@ void ItemsPanel::addRow()
 void ItemsPanel::removeRows()
 {
     remove(m_variable, selected());
-    m_workspace.document->commit(stepText(m_buttons.remove), m_workspace.selection->entity());
+    commit(m_texts.removing);
 }
 
 void ItemsPanel::moveRows(bool up)
 {
     const QList<void *> items = selected();
     move(m_variable, items, up);
-    m_workspace.document->commit(stepText(up ? m_buttons.moveUp : m_buttons.moveDown),
-                                 m_workspace.selection->entity());
+    commit(m_texts.moving);
     select(items);
 }

@@ -2,17 +2,17 @@
 
 #include "workbench/Actions.h"
 #include "workbench/panels/ColumnMemory.h"
+#include "workbench/panels/EmptyText.h"
 #include "workbench/Workspace.h"
 
 #include <QList>
+#include <QTableView>
 #include <QWidget>
 
 #include <memory>
 
 class QAbstractItemModel;
-class QLabel;
 class QSortFilterProxyModel;
-class QTableView;
 class TDcVariable;
 
 /// A small table of what belongs to the current variable, with buttons to add, remove and move rows.
@@ -28,6 +28,11 @@ public:
     struct Buttons {
         ActionId add, remove, moveUp, moveDown;
     };
+    /// What the table is called, what it says when it is empty, and what completes "Undo"; %1 is the
+    /// variable.
+    struct Texts {
+        QString title, empty, adding, removing, moving;
+    };
 
     [[nodiscard]] QTableView *view() const { return m_view; }
     /// Selects the rows of \a items, as far as they are there. Addresses are only compared.
@@ -35,7 +40,7 @@ public:
 
 protected:
     /// \a name is the table's in the settings.
-    ItemsPanel(const Workspace &workspace, const QString &name, const QString &title,
+    ItemsPanel(const Workspace &workspace, const QString &name, const Texts &texts,
                QSortFilterProxyModel *proxy, Buttons buttons, QWidget *parent);
 
     /// To be called at the end of the derived constructor.
@@ -43,7 +48,6 @@ protected:
 
     /// The layer's model of the items of \a variable.
     virtual QAbstractItemModel *createModel(TDcVariable *variable) = 0;
-    [[nodiscard]] virtual QString emptyText() const = 0;
     [[nodiscard]] virtual QList<void *> items(TDcVariable *variable) const = 0;
     virtual void add(TDcVariable *variable) = 0;
     virtual void remove(TDcVariable *variable, const QList<void *> &items) = 0;
@@ -51,7 +55,7 @@ protected:
     [[nodiscard]] virtual bool canMove(TDcVariable *variable, const QList<void *> &items, bool up) const = 0;
 
     Workspace m_workspace;
-    QTableView *m_view;
+    EmptyText<QTableView> *m_view;
 
 private:
     void showVariable();
@@ -60,11 +64,12 @@ private:
     void removeRows();
     void moveRows(bool up);
     void refresh();
-    [[nodiscard]] QString stepText(ActionId action) const;
+    /// Makes a step of what was done; \a text is one of m_texts.
+    void commit(const QString &text);
     [[nodiscard]] QList<void *> selected() const;
 
+    Texts m_texts;
     Buttons m_buttons;
-    QLabel *m_title;
     QSortFilterProxyModel *m_proxy;
     QAbstractItemModel *m_model = nullptr; // Owned by the panel.
     TDcVariable *m_variable = nullptr; // Not owned.

@@ -1,11 +1,11 @@
 #include "workbench/panels/RangesPanel.h"
 
-#include "model/MetadataVariables.h"
-#include "model/TDcVariable.h"
 #include "models/VarRangeDelegate.h"
 #include "models/VarRangeModel.h"
 #include "models/VarRangeProxyModel.h"
+#include "workbench/operations/Layouts.h"
 #include "workbench/operations/ListEdits.h"
+#include "workbench/proxies/TitledColumns.h"
 
 #include <QLocale>
 #include <QTableView>
@@ -14,12 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-QList<Range *> *rangesOf(TDcVariable *variable)
-{
-    const MetadataVariables *metadata = variable->getMetadataVariables();
-    return metadata ? metadata->getRange() : nullptr;
-}
-
 /// Shows bounds as the spin boxes edit them. By itself a view rounds to six digits.
 class BoundDelegate : public VarRangeDelegate
 {
@@ -36,7 +30,10 @@ public:
 } // namespace
 
 RangesPanel::RangesPanel(const Workspace &workspace, QWidget *parent)
-    : ItemsPanel(workspace, u"ranges"_s, tr("Ranges"), new VarRangeProxyModel(nullptr),
+    : ItemsPanel(workspace, u"ranges"_s,
+                 {tr("Ranges"), tr("No ranges: every value is valid."), tr("adding a range to %1"),
+                  tr("removing ranges of %1"), tr("moving ranges of %1")},
+                 new TitledColumns<VarRangeProxyModel>({tr("Minimum"), tr("Maximum")}),
                  {ActionId::RangeAdd, ActionId::RangeRemove, ActionId::RangeMoveUp, ActionId::RangeMoveDown},
                  parent)
 {
@@ -51,36 +48,27 @@ QAbstractItemModel *RangesPanel::createModel(TDcVariable *variable)
     return new VarRangeModel(this, variable);
 }
 
-QString RangesPanel::emptyText() const
-{
-    return tr("No ranges: every value is valid.");
-}
-
 QList<void *> RangesPanel::items(TDcVariable *variable) const
 {
-    const QList<Range *> *ranges = rangesOf(variable);
-    return ranges ? ListEdits::untyped(*ranges) : QList<void *>();
+    return ListEdits::untyped(Layouts::ranges(*variable));
 }
 
 void RangesPanel::add(TDcVariable *variable)
 {
-    if (!variable->getMetadataVariables())
-        variable->setMetadataVariables(new MetadataVariables);
-    variable->getMetadataVariables()->addItemRange(new Range);
+    Layouts::of(*variable).addItemRange(new Range);
 }
 
 void RangesPanel::remove(TDcVariable *variable, const QList<void *> &items)
 {
-    ListEdits::remove(*rangesOf(variable), ListEdits::typed<Range>(items));
+    ListEdits::remove(*Layouts::of(*variable).getRange(), ListEdits::typed<Range>(items));
 }
 
 void RangesPanel::move(TDcVariable *variable, const QList<void *> &items, bool up)
 {
-    ListEdits::move(*rangesOf(variable), ListEdits::typed<Range>(items), up);
+    ListEdits::move(*Layouts::of(*variable).getRange(), ListEdits::typed<Range>(items), up);
 }
 
 bool RangesPanel::canMove(TDcVariable *variable, const QList<void *> &items, bool up) const
 {
-    const QList<Range *> *ranges = rangesOf(variable);
-    return ranges && ListEdits::canMove(*ranges, ListEdits::typed<Range>(items), up);
+    return ListEdits::canMove(Layouts::ranges(*variable), ListEdits::typed<Range>(items), up);
 }

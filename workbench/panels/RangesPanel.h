@@ -12,7 +12,6 @@ public:
 
 protected:
     QAbstractItemModel *createModel(TDcVariable *variable) override;
-    [[nodiscard]] QString emptyText() const override;
     [[nodiscard]] QList<void *> items(TDcVariable *variable) const override;
     void add(TDcVariable *variable) override;
     void remove(TDcVariable *variable, const QList<void *> &items) override;

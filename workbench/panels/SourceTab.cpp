@@ -2,21 +2,23 @@
 
 #include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
+#include "workbench/SourceFiles.h"
 
 #include <QAction>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QRegularExpression>
 #include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+using namespace Qt::Literals::StringLiterals;
+
 SourceTab::SourceTab(const QString &name, const QString &title, QSortFilterProxyModel *proxy,
                      const QList<QAction *> &actions, QWidget *parent)
-    : QWidget(parent), m_bar(new QHBoxLayout), m_proxy(proxy)
+    : QWidget(parent), m_bar(new QHBoxLayout), m_proxy(proxy), m_notesButton(new QToolButton(this))
 {
     auto *table = new EmptyText<QTableView>(this);
     table->setEmptyText(tr("Open a file to list its fields here, then drag them onto the variables."));
@@ -38,6 +40,12 @@ SourceTab::SourceTab(const QString &name, const QString &title, QSortFilterProxy
         m_bar->addWidget(button);
         m_view->addAction(action);
     }
+    m_notesButton->setObjectName(u"notes"_s);
+    m_notesButton->setAutoRaise(true);
+    m_notesButton->setFocusPolicy(Qt::TabFocus);
+    m_notesButton->setToolTip(tr("Show what was read, but not as the file has it"));
+    setNotes({});
+    m_bar->addWidget(m_notesButton);
     QLineEdit *filter = Widgets::filterField(tr("Filter %1").arg(title), tr("Filter"), this);
     m_bar->addWidget(filter, 1);
     auto *layout = new QVBoxLayout(this);
@@ -45,9 +53,10 @@ SourceTab::SourceTab(const QString &name, const QString &title, QSortFilterProxy
     layout->addLayout(m_bar);
     layout->addWidget(m_view);
 
+    connect(m_notesButton, &QAbstractButton::clicked, this,
+            [this] { SourceFiles::showNotes(window(), m_notes); });
     connect(filter, &QLineEdit::textChanged, this, [this](const QString &text) {
-        m_proxy->setFilterRegularExpression(QRegularExpression(QRegularExpression::escape(text.trimmed()),
-                                                               QRegularExpression::CaseInsensitiveOption));
+        Widgets::filterBy(m_proxy, text);
         // What was selected may be out of sight now.
         if (!m_view->selectionModel()->hasSelection() && m_proxy->rowCount() > 0)
             m_view->selectRow(qMax(0, m_view->currentIndex().row()));
@@ -74,6 +83,13 @@ void SourceTab::setModel(QAbstractItemModel *model)
     if (m_proxy->rowCount() > 0)
         m_view->selectRow(0);
     Q_EMIT selectionChanged();
+}
+
+void SourceTab::setNotes(const QList<SourceProblem> &notes)
+{
+    m_notes = notes;
+    m_notesButton->setText(tr("Notes (%L1)…").arg(notes.size()));
+    m_notesButton->setVisible(!notes.isEmpty());
 }
 
 void SourceTab::addControl(QWidget *control)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/sources/SourceResult.h"
 #include "workbench/panels/ColumnMemory.h"
 
 #include <QWidget>
@@ -12,6 +13,7 @@ class QBoxLayout;
 class QMimeData;
 class QSortFilterProxyModel;
 class QTableView;
+class QToolButton;
 
 /// One tab of the sources: a list to filter, whose rows are dragged onto the variable table.
 class SourceTab : public QWidget
@@ -27,6 +29,8 @@ public:
     [[nodiscard]] QTableView *view() const { return m_view; }
     /// Shows \a model, which the tab takes over, instead of the one before.
     void setModel(QAbstractItemModel *model);
+    /// Offers to show what was read, but not as the file has it. Without \a notes nothing is offered.
+    void setNotes(const QList<SourceProblem> &notes);
     /// Puts \a control before the filter.
     void addControl(QWidget *control);
     /// What a drag of the selected rows carries, the caller's; null when nothing is selected.
@@ -43,4 +47,6 @@ private:
     std::unique_ptr<ColumnMemory> m_columns;
     QSortFilterProxyModel *m_proxy;
     QAbstractItemModel *m_model = nullptr; // Owned by the tab.
+    QToolButton *m_notesButton;
+    QList<SourceProblem> m_notes; // Of the file that is shown.
 };

@@ -6,6 +6,7 @@
 #include "models/VariablesDatasetProxyModel.h"
 #include "workbench/Actions.h"
 #include "workbench/panels/SourceTab.h"
+#include "workbench/proxies/TitledColumns.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -34,12 +35,15 @@ SourcesPanel::SourcesPanel(const Workspace &workspace, QWidget *parent)
 {
     const Actions &actions = *workspace.actions;
     QAction *append = actions[ActionId::SourceAppend];
-    m_dataset = new SourceTab(u"dataset"_s, tr("Dataset fields"), new VariablesDatasetProxyModel(nullptr),
-                              {actions[ActionId::SourceOpenDataset], append}, this);
-    m_csv = new SourceTab(u"csv"_s, tr("CSV fields"), new QSortFilterProxyModel,
+    m_dataset =
+        new SourceTab(u"dataset"_s, tr("Dataset fields"),
+                      new TitledColumns<VariablesDatasetProxyModel>({tr("Field"), tr("Label"), tr("Tag")}),
+                      {actions[ActionId::SourceOpenDataset], append}, this);
+    m_csv = new SourceTab(u"csv"_s, tr("CSV fields"), new TitledColumns<QSortFilterProxyModel>({tr("Field")}),
                           {actions[ActionId::SourceOpenCsv], append}, this);
-    m_lookups = new SourceTab(u"lookups"_s, tr("Lookups"), new QSortFilterProxyModel,
-                              {actions[ActionId::SourceOpenLookups], append}, this);
+    m_lookups =
+        new SourceTab(u"lookups"_s, tr("Lookups"), new TitledColumns<QSortFilterProxyModel>({tr("Lookup")}),
+                      {actions[ActionId::SourceOpenLookups], append}, this);
     m_dataset->addControl(m_record);
     m_record->setAccessibleName(tr("Record"));
     m_record->view()->setAccessibleName(tr("Record"));

@@ -6,13 +6,17 @@
 #include "models/VarValueLabelDiccionaryProxyModel.h"
 #include "workbench/operations/ListEdits.h"
 #include "workbench/operations/NewCodes.h"
+#include "workbench/proxies/TitledColumns.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 ValueLabelsPanel::ValueLabelsPanel(const Workspace &workspace, QWidget *parent)
-    : ItemsPanel(
-        workspace, u"valueLabels"_s, tr("Value labels"), new VarValueLabelDiccionaryProxyModel(nullptr),
-        {ActionId::LabelAdd, ActionId::LabelRemove, ActionId::LabelMoveUp, ActionId::LabelMoveDown}, parent)
+    : ItemsPanel(workspace, u"valueLabels"_s,
+                 {tr("Value labels"), tr("No value labels."), tr("adding a value label to %1"),
+                  tr("removing value labels of %1"), tr("moving value labels of %1")},
+                 new TitledColumns<VarValueLabelDiccionaryProxyModel>({tr("Code"), tr("Label")}),
+                 {ActionId::LabelAdd, ActionId::LabelRemove, ActionId::LabelMoveUp, ActionId::LabelMoveDown},
+                 parent)
 {
     start();
 }
@@ -20,11 +24,6 @@ ValueLabelsPanel::ValueLabelsPanel(const Workspace &workspace, QWidget *parent)
 QAbstractItemModel *ValueLabelsPanel::createModel(TDcVariable *variable)
 {
     return new VarValueLabelDiccionaryModel(this, variable);
-}
-
-QString ValueLabelsPanel::emptyText() const
-{
-    return tr("No value labels.");
 }
 
 QList<void *> ValueLabelsPanel::items(TDcVariable *variable) const

@@ -9,9 +9,11 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QSortFilterProxyModel>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QToolButton>
@@ -97,6 +99,12 @@ QLineEdit *Widgets::filterField(const QString &name, const QString &placeholder,
     field->setClearButtonEnabled(true);
     field->addAction(QIcon(IconPaths::filter), QLineEdit::LeadingPosition);
     return field;
+}
+
+void Widgets::filterBy(QSortFilterProxyModel *proxy, const QString &text)
+{
+    proxy->setFilterRegularExpression(QRegularExpression(QRegularExpression::escape(text.trimmed()),
+                                                         QRegularExpression::CaseInsensitiveOption));
 }
 
 QWidget *Widgets::scrolled(QWidget *form, QWidget *parent)

@@ -8,6 +8,7 @@ class QAbstractItemView;
 class QAction;
 class QLineEdit;
 class QListView;
+class QSortFilterProxyModel;
 class QTableView;
 class QToolButton;
 class QTreeView;
@@ -20,6 +21,8 @@ namespace Widgets
 [[nodiscard]] QToolButton *button(QAction *action, QWidget *parent);
 /// A line to type a filter into, with a button that clears it. \a name is what it is called aloud.
 [[nodiscard]] QLineEdit *filterField(const QString &name, const QString &placeholder, QWidget *parent);
+/// Leaves the rows that hold \a text, in any case and without the blanks around it.
+void filterBy(QSortFilterProxyModel *proxy, const QString &text);
 /// An area in which \a form scrolls up and down where it is too high. Its controls take the focus, it does
 /// not.
 [[nodiscard]] QWidget *scrolled(QWidget *form, QWidget *parent);
