@@ -1,7 +1,6 @@
 #include "workbench/operations/EntityEdits.h"
 
 #include "business/BusinessEntity.h"
-#include "common/DictionaryUtil.h"
 #include "documents/DictionaryCopy.h"
 #include "model/PreOrder.h"
 #include "model/TDcEntity.h"
@@ -26,14 +25,10 @@ TDcEntity *EntityEdits::duplicate(TDcEntity *root, TDcEntity *entity)
 {
     TDcEntity *parent = Places::parentOf(root, entity);
     std::unique_ptr<TDcEntity> copy = DictionaryCopy::copy(*entity);
-    // One by one: each new name has to be free beside those given before.
     TDcEntity *added = copy.get();
-    QList<QString> given;
-    preOrder(added, [root, &given](TDcEntity *node) {
-        QString name = NewNames::entity(root, node->getName());
-        name = NewNames::free(name, DictionaryUtil().getNamesEntitiesDictionary(root, given));
-        given.append(name);
-        node->setName(name);
+    auto names = NewNames::forEntities(root);
+    preOrder(added, [&names](TDcEntity *node) {
+        node->setName(names.take(node->getName()));
         node->setAlias({});
     });
     QList<TDcEntity *> &siblings = *parent->getChildren();

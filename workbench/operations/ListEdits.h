@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QSet>
 
 #include <algorithm>
 #include <iterator>
@@ -29,10 +30,11 @@ template <typename Item>
 template <typename Item>
 void remove(QList<Item *> &list, const QList<Item *> &items)
 {
-    for (Item *item : items) {
-        if (list.removeOne(item))
-            delete item;
-    }
+    const QSet<Item *> leaving(items.cbegin(), items.cend());
+    const auto kept = std::stable_partition(list.begin(), list.end(),
+                                            [&leaving](Item *item) { return !leaving.contains(item); });
+    qDeleteAll(kept, list.end());
+    list.erase(kept, list.end());
 }
 
 /// Whether moving \a items by one place, up or else down, would change \a list: the first of them is not at
@@ -52,14 +54,17 @@ void move(QList<Item *> &list, const QList<Item *> &items, bool up)
 {
     if (!canMove(list, items, up))
         return;
-    QList<qsizetype> rows;
-    std::transform(items.cbegin(), items.cend(), std::back_inserter(rows),
-                   [&list](Item *item) { return list.indexOf(item); });
-    rows.removeAll(-1);
-    std::sort(rows.begin(), rows.end());
-    if (!up)
-        std::reverse(rows.begin(), rows.end());
-    for (qsizetype row : std::as_const(rows))
-        list.swapItemsAt(row, up ? row - 1 : row + 1);
+    const QSet<Item *> moving(items.cbegin(), items.cend());
+    // One after the other in the direction of the move: each takes the place that the one before left.
+    const auto pass = [&moving](auto begin, auto end) {
+        for (auto it = std::next(begin); it != end; ++it) {
+            if (moving.contains(*it))
+                std::iter_swap(it, std::prev(it));
+        }
+    };
+    if (up)
+        pass(list.begin(), list.end());
+    else
+        pass(list.rbegin(), list.rend());
 }
 } // namespace ListEdits

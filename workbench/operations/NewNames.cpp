@@ -2,37 +2,63 @@
 
 #include "common/DictionaryUtil.h"
 
-#include <QSet>
-
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
-QString NewNames::free(const QString &base, const QList<QString> &taken)
+namespace
 {
-    QSet<QString> folded;
-    std::for_each(taken.cbegin(), taken.cend(),
-                  [&folded](const QString &name) { folded.insert(name.trimmed().toCaseFolded()); });
-    QString name = base;
-    for (int number = 2; folded.contains(name.toCaseFolded()); ++number)
+/// \a name as it is compared.
+QString folded(const QString &name)
+{
+    return name.trimmed().toCaseFolded();
+}
+} // namespace
+
+NewNames::NewNames(const QList<QString> &taken)
+{
+    for (const QString &name : taken)
+        m_taken.insert(folded(name));
+    m_taken.remove({});
+}
+
+NewNames NewNames::forEntities(TDcEntity *root)
+{
+    DictionaryUtil names;
+    QList<QString> taken = names.getNamesEntitiesDictionary(root, {});
+    taken = names.getGroupEntitiesDictionary(root, taken);
+    return NewNames(names.getAliasEntitiesDictionary(root, taken));
+}
+
+NewNames NewNames::forVariables(TDcEntity *root, TDcEntity *entity)
+{
+    DictionaryUtil names;
+    QList<QString> taken = names.getNamesEntitiesDictionary(root, {});
+    taken = names.getNamesVariablesByEntities(entity, taken);
+    return NewNames(names.getAliasVariableByEntity(entity, taken));
+}
+
+QString NewNames::take(const QString &base)
+{
+    if (folded(base).isEmpty())
+        return base;
+    // What was once taken stays so, and need not be tried again.
+    int &number = m_last[folded(base)];
+    QString name = number == 0 ? base : u"%1_%2"_s.arg(base, QString::number(number));
+    while (m_taken.contains(folded(name))) {
+        number = std::max(number + 1, 2);
         name = u"%1_%2"_s.arg(base, QString::number(number));
+    }
+    m_taken.insert(folded(name));
     return name;
 }
 
 QString NewNames::entity(TDcEntity *root, const QString &base)
 {
-    DictionaryUtil names;
-    QList<QString> taken = names.getNamesEntitiesDictionary(root, {});
-    taken = names.getGroupEntitiesDictionary(root, taken);
-    taken = names.getAliasEntitiesDictionary(root, taken);
-    return free(base, taken);
+    return forEntities(root).take(base);
 }
 
 QString NewNames::variable(TDcEntity *root, TDcEntity *entity, const QString &base)
 {
-    DictionaryUtil names;
-    QList<QString> taken = names.getNamesEntitiesDictionary(root, {});
-    taken = names.getNamesVariablesByEntities(entity, taken);
-    taken = names.getAliasVariableByEntity(entity, taken);
-    return free(base, taken);
+    return forVariables(root, entity).take(base);
 }

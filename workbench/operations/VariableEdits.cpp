@@ -68,9 +68,10 @@ QList<TDcVariable *> VariableEdits::duplicate(TDcEntity *root, TDcEntity *entity
 {
     QList<TDcVariable *> copies;
     int tag = nextTag(*entity);
+    auto names = NewNames::forVariables(root, entity);
     for (const TDcVariable *variable : variables) {
         std::unique_ptr<TDcVariable> copy = DictionaryCopy::copy(*variable);
-        copy->setName(NewNames::variable(root, entity, variable->getName()));
+        copy->setName(names.take(variable->getName()));
         copy->setAlias({});
         copy->setTag(tag++);
         copies.append(copy.get());
