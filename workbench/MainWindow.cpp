@@ -7,6 +7,7 @@
 #include "workbench/dialogs/EditTogetherDialog.h"
 #include "workbench/dialogs/ExpressionDialog.h"
 #include "workbench/dialogs/LabelSetsDialog.h"
+#include "workbench/dialogs/MoveDialog.h"
 #include "workbench/FileCommands.h"
 #include "workbench/journal/JournalFolder.h"
 #include "workbench/panels/EntityForm.h"
@@ -70,6 +71,7 @@ MainWindow::MainWindow(QWidget *parent)
     EditTogetherDialog::addTo({&m_document, &m_selection, &m_actions, this});
     CopyValuesDialog::addTo({&m_document, &m_selection, &m_actions, this});
     LabelSetsDialog::addTo({&m_document, &m_selection, &m_actions, this});
+    MoveDialog::addTo({&m_document, &m_selection, &m_actions, this});
     addUndo();
     addAbout();
     connect(m_actions[ActionId::FileQuit], &QAction::triggered, this, &QWidget::close);

@@ -483,6 +483,22 @@
         <source>Go back with the keyboard to the part of the window before</source>
         <translation>Mit der Tastatur in den Teil des Fensters davor zurückgehen</translation>
     </message>
+    <message>
+        <source>Move Entity &amp;To…</source>
+        <translation>Entität &amp;verschieben nach…</translation>
+    </message>
+    <message>
+        <source>Move the entity with everything below it to another place in the tree</source>
+        <translation>Die Entität mit allem darunter an eine andere Stelle des Baums verschieben</translation>
+    </message>
+    <message>
+        <source>Move Variables &amp;To…</source>
+        <translation>Variablen &amp;verschieben nach…</translation>
+    </message>
+    <message>
+        <source>Move the selected variables to another entity</source>
+        <translation>Die ausgewählten Variablen in eine andere Entität verschieben</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -2910,6 +2926,62 @@
     </message>
 </context>
 <context>
+    <name>MoveDialog</name>
+    <message>
+        <source>Move %1</source>
+        <translation>%1 verschieben</translation>
+    </message>
+    <message>
+        <source>Move %L1 Variables</source>
+        <translation>%L1 Variablen verschieben</translation>
+    </message>
+    <message>
+        <source>What will change</source>
+        <translation>Was sich ändern wird</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>&amp;Verschieben</translation>
+    </message>
+    <message>
+        <source>Put it &amp;below:</source>
+        <translation>Einfügen &amp;unter:</translation>
+    </message>
+    <message>
+        <source>Put &amp;into:</source>
+        <translation>Einfügen &amp;in:</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entitäten</translation>
+    </message>
+    <message>
+        <source>Choose an entity.</source>
+        <translation>Wählen Sie eine Entität.</translation>
+    </message>
+    <message>
+        <source>%1 will stand below %2, after what is there.</source>
+        <translation>%1 wird unter %2 stehen, nach dem, was dort ist.</translation>
+    </message>
+    <message>
+        <source>There are %L1 more changes.</source>
+        <translation>Es gibt noch %L1 weitere Änderungen.</translation>
+    </message>
+    <message>
+        <source>Variables that will stand at the end of %2: %L1</source>
+        <comment>%1 is their number</comment>
+        <translation>Variablen, die am Ende von %2 stehen werden: %L1</translation>
+    </message>
+    <message>
+        <source>moving %1 to %2</source>
+        <translation>Verschieben von %1 nach %2</translation>
+    </message>
+    <message>
+        <source>moving %L1 variables to %2</source>
+        <translation>Verschieben von %L1 Variablen nach %2</translation>
+    </message>
+</context>
+<context>
     <name>Paste</name>
     <message>
         <source>%1 and %L2 more</source>
@@ -3977,6 +4049,29 @@ Soll sie es bleiben?</translation>
     <message>
         <source>N&amp;otes</source>
         <translation>N&amp;otizen</translation>
+    </message>
+</context>
+<context>
+    <name>VariableMoves</name>
+    <message>
+        <source>%1 will be called %2, since the name is taken there.</source>
+        <translation>%1 wird %2 heißen, weil der Name dort vergeben ist.</translation>
+    </message>
+    <message>
+        <source>%1 will lose its alias %2, which is taken there.</source>
+        <translation>%1 verliert den Alias %2, der dort vergeben ist.</translation>
+    </message>
+    <message>
+        <source>%1 will have no reference code and not be selectable.</source>
+        <translation>%1 wird keinen Referenzcode mehr haben und nicht auswählbar sein.</translation>
+    </message>
+    <message>
+        <source>%1 will have no reference label.</source>
+        <translation>%1 wird kein Referenzlabel mehr haben.</translation>
+    </message>
+    <message>
+        <source>%1 will have no weight.</source>
+        <translation>%1 wird kein Gewicht mehr haben.</translation>
     </message>
 </context>
 <context>

@@ -483,6 +483,22 @@
         <source>Go back with the keyboard to the part of the window before</source>
         <translation>Volver con el teclado a la parte anterior de la ventana</translation>
     </message>
+    <message>
+        <source>Move Entity &amp;To…</source>
+        <translation>&amp;Mover entidad a…</translation>
+    </message>
+    <message>
+        <source>Move the entity with everything below it to another place in the tree</source>
+        <translation>Mover la entidad con todo lo que tiene debajo a otro lugar del árbol</translation>
+    </message>
+    <message>
+        <source>Move Variables &amp;To…</source>
+        <translation>&amp;Mover variables a…</translation>
+    </message>
+    <message>
+        <source>Move the selected variables to another entity</source>
+        <translation>Mover las variables seleccionadas a otra entidad</translation>
+    </message>
 </context>
 <context>
     <name>AreaSelectionDialog</name>
@@ -2910,6 +2926,62 @@
     </message>
 </context>
 <context>
+    <name>MoveDialog</name>
+    <message>
+        <source>Move %1</source>
+        <translation>Mover %1</translation>
+    </message>
+    <message>
+        <source>Move %L1 Variables</source>
+        <translation>Mover %L1 variables</translation>
+    </message>
+    <message>
+        <source>What will change</source>
+        <translation>Lo que cambiará</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>&amp;Mover</translation>
+    </message>
+    <message>
+        <source>Put it &amp;below:</source>
+        <translation>Poner &amp;debajo de:</translation>
+    </message>
+    <message>
+        <source>Put &amp;into:</source>
+        <translation>Poner &amp;en:</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>Choose an entity.</source>
+        <translation>Elija una entidad.</translation>
+    </message>
+    <message>
+        <source>%1 will stand below %2, after what is there.</source>
+        <translation>%1 estará debajo de %2, después de lo que hay allí.</translation>
+    </message>
+    <message>
+        <source>There are %L1 more changes.</source>
+        <translation>Hay %L1 cambios más.</translation>
+    </message>
+    <message>
+        <source>Variables that will stand at the end of %2: %L1</source>
+        <comment>%1 is their number</comment>
+        <translation>Variables que estarán al final de %2: %L1</translation>
+    </message>
+    <message>
+        <source>moving %1 to %2</source>
+        <translation>mover %1 a %2</translation>
+    </message>
+    <message>
+        <source>moving %L1 variables to %2</source>
+        <translation>mover %L1 variables a %2</translation>
+    </message>
+</context>
+<context>
     <name>Paste</name>
     <message>
         <source>%1 and %L2 more</source>
@@ -3977,6 +4049,29 @@ Keep it as RefCode?</source>
     <message>
         <source>N&amp;otes</source>
         <translation>N&amp;otas</translation>
+    </message>
+</context>
+<context>
+    <name>VariableMoves</name>
+    <message>
+        <source>%1 will be called %2, since the name is taken there.</source>
+        <translation>%1 se llamará %2, porque el nombre ya existe allí.</translation>
+    </message>
+    <message>
+        <source>%1 will lose its alias %2, which is taken there.</source>
+        <translation>%1 perderá su alias %2, que ya existe allí.</translation>
+    </message>
+    <message>
+        <source>%1 will have no reference code and not be selectable.</source>
+        <translation>%1 quedará sin código de referencia y no será seleccionable.</translation>
+    </message>
+    <message>
+        <source>%1 will have no reference label.</source>
+        <translation>%1 quedará sin etiqueta de referencia.</translation>
+    </message>
+    <message>
+        <source>%1 will have no weight.</source>
+        <translation>%1 quedará sin ponderación.</translation>
     </message>
 </context>
 <context>

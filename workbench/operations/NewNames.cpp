@@ -38,6 +38,11 @@ NewNames NewNames::forVariables(TDcEntity *root, TDcEntity *entity)
     return NewNames(names.getAliasVariableByEntity(entity, taken));
 }
 
+bool NewNames::isFree(const QString &name) const
+{
+    return !m_taken.contains(folded(name));
+}
+
 QString NewNames::take(const QString &base)
 {
     if (folded(base).isEmpty())
@@ -45,7 +50,7 @@ QString NewNames::take(const QString &base)
     // What was once taken stays so, and need not be tried again.
     int &number = m_last[folded(base)];
     QString name = number == 0 ? base : u"%1_%2"_s.arg(base, QString::number(number));
-    while (m_taken.contains(folded(name))) {
+    while (!isFree(name)) {
         number = std::max(number + 1, 2);
         name = u"%1_%2"_s.arg(base, QString::number(number));
     }

@@ -20,6 +20,7 @@ public:
     /// For variables: no entity's name, and no name or alias of a variable of \a entity.
     [[nodiscard]] static NewNames forVariables(TDcEntity *root, TDcEntity *entity);
 
+    [[nodiscard]] bool isFree(const QString &name) const;
     /// \a base, or \a base followed by "_2", "_3" ..., whatever is not taken yet, letter case and surrounding
     /// blanks aside. From then on it is taken. Any number of things may have an empty name.
     [[nodiscard]] QString take(const QString &base);

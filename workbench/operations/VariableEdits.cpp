@@ -7,6 +7,8 @@
 #include "workbench/operations/ListEdits.h"
 #include "workbench/operations/NewNames.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <iterator>
 #include <memory>
@@ -80,17 +82,31 @@ QList<TDcVariable *> VariableEdits::duplicate(TDcEntity *root, TDcEntity *entity
     return copies;
 }
 
+QList<Role> VariableEdits::rolesOf(const TDcEntity &entity, const QList<TDcVariable *> &variables)
+{
+    const QSet<TDcVariable *> leaving(variables.cbegin(), variables.cend());
+    QList<TDcVariable *> others = *entity.getVariables();
+    others.removeIf([&leaving](TDcVariable *variable) { return leaving.contains(variable); });
+    QList<Role> found;
+    std::copy_if(std::begin(roles), std::end(roles), std::back_inserter(found), [&](Role role) {
+        return anyHas(entity, variables, role) && !anyHas(entity, others, role); // Names may be there twice.
+    });
+    return found;
+}
+
+void VariableEdits::takeOut(TDcEntity &entity, const QList<TDcVariable *> &variables)
+{
+    const QList<Role> lost = rolesOf(entity, variables);
+    const QSet<TDcVariable *> leaving(variables.cbegin(), variables.cend());
+    entity.getVariables()->removeIf([&leaving](TDcVariable *variable) { return leaving.contains(variable); });
+    for (Role role : lost)
+        setRole(entity, role, {});
+}
+
 void VariableEdits::remove(TDcEntity &entity, const QList<TDcVariable *> &variables)
 {
-    QList<Role> concerned;
-    std::copy_if(std::begin(roles), std::end(roles), std::back_inserter(concerned),
-                 [&](Role role) { return anyHas(entity, variables, role); });
-    QList<TDcVariable *> &all = *entity.getVariables();
-    ListEdits::remove(all, variables);
-    for (Role role : std::as_const(concerned)) {
-        if (!anyHas(entity, all, role)) // Names may be there twice.
-            setRole(entity, role, {});
-    }
+    takeOut(entity, variables);
+    qDeleteAll(variables);
 }
 
 bool VariableEdits::has(const TDcEntity &entity, const TDcVariable &variable, Role role)

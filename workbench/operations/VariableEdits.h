@@ -20,8 +20,12 @@ TDcVariable *add(TDcEntity *entity, const QString &name);
 TDcVariable *add(TDcEntity *entity, const QString &name, int tag);
 /// Adds a copy of each of \a variables at the end, with free names and without alias.
 QList<TDcVariable *> duplicate(TDcEntity *root, TDcEntity *entity, const QList<TDcVariable *> &variables);
-/// Takes \a variables out of \a entity and deletes them. A role that no variable is left for is nobody's
-/// then.
+/// The roles of \a entity that one of \a variables has, and no other variable of it.
+[[nodiscard]] QList<Role> rolesOf(const TDcEntity &entity, const QList<TDcVariable *> &variables);
+/// Takes \a variables, all of them of \a entity, out of it; the caller owns them then. A role that no
+/// variable is left for is nobody's then.
+void takeOut(TDcEntity &entity, const QList<TDcVariable *> &variables);
+/// The same, and deletes them.
 void remove(TDcEntity &entity, const QList<TDcVariable *> &variables);
 
 [[nodiscard]] bool has(const TDcEntity &entity, const TDcVariable &variable, Role role);

@@ -58,6 +58,7 @@ void EntityTreePanel::connectActions()
     act(ActionId::EntityRemove, [this] { removeEntity(); });
     act(ActionId::EntityMoveUp, [this] { moveEntity(true); });
     act(ActionId::EntityMoveDown, [this] { moveEntity(false); });
+    m_view->addAction(actions[ActionId::EntityMoveTo]);
     Widgets::bindKey(m_view, QKeySequence::Delete, actions[ActionId::EntityRemove]);
     Widgets::bindKey(m_view, Qt::Key_Insert, actions[ActionId::EntityAdd]);
 }

@@ -49,6 +49,7 @@ void VariableTablePanel::connectActions()
     act(ActionId::VariableRemove, [this] { removeVariables(); });
     act(ActionId::VariableMoveUp, [this] { moveVariables(true); });
     act(ActionId::VariableMoveDown, [this] { moveVariables(false); });
+    m_view->addAction(actions[ActionId::VariableMoveTo]);
     for (const Role &role : roles) {
         actions[role.action]->setCheckable(true);
         act(role.action, [this, &role] { toggleRole(role.role); });
