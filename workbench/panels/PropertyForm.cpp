@@ -175,10 +175,10 @@ void PropertyForm::addHeading(const QString &text)
     m_layout->addRow(heading);
 }
 
-void PropertyForm::watch(QWidget *control, std::function<bool()> isTyping)
+void PropertyForm::watch(QWidget *control, const std::function<bool()> &isTyping)
 {
     control->installEventFilter(this);
-    m_isTyping.insert(control, std::move(isTyping));
+    m_isTyping.insert(control, isTyping);
 }
 
 bool PropertyForm::eventFilter(QObject *watched, QEvent *event)

@@ -66,7 +66,7 @@ private:
     void write(const Value &value, const Get<Value> &get, const Set<Value> &set);
 
     /// Looks at the events of \a control; \a isTyping is whether it shows something else than its getter.
-    void watch(QWidget *control, std::function<bool()> isTyping);
+    void watch(QWidget *control, const std::function<bool()> &isTyping);
 
     QFormLayout *m_layout;
     QList<std::function<void()>> m_refreshers;
