@@ -1,5 +1,6 @@
 #include "cli/TextConverter.h"
 
+#include "cli/DocumentReader.h"
 #include "cli/Input.h"
 #include "cli/Output.h"
 #include "cli/Text.h"
@@ -53,8 +54,8 @@ void print(const QString &place, const QJsonValue &value, Cli::Output &output)
 void Cli::convertToText(const QString &path, Output &output)
 {
     const QByteArray bytes = Input::readAll(path);
-    if (const QJsonDocument document = QJsonDocument::fromJson(bytes); document.isObject())
-        print({}, document.object(), output);
+    if (const QJsonDocument document = QJsonDocument::fromJson(bytes); !document.isNull())
+        print({}, valueOf(document), output);
     else
         output.raw(bytes);
 }

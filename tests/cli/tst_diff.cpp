@@ -333,6 +333,8 @@ private Q_SLOTS:
                  "variables/AGE/valueLabels/1/label: \"Baby\"\n"
                  "variables/AGE/valueLabels/1/value: \"1\"\n"_s);
         QCOMPARE(run.status, 0);
+        const QString list = folder.write(u"list.mvdb"_s, "[" + before + "]");
+        QVERIFY(runProgram({u"diff"_s, u"--textconv"_s, list}).output.startsWith(u"A/name: \"A\"\n"_s));
     }
 
     void aVersionThatIsNoJsonIsConvertedToItself()

@@ -23,16 +23,6 @@ QString failureOf(const QByteArray &content)
     }
     return {};
 }
-
-QString failureOfPath(const QString &path)
-{
-    try {
-        (void)readDocument(path);
-    } catch (const Failure &failure) {
-        return failure.message();
-    }
-    return {};
-}
 } // namespace
 
 class TestDocumentReader : public QObject
@@ -143,17 +133,6 @@ private Q_SLOTS:
         const DictionaryDocument document =
             readDocument(folder.write(u"d.mvdb"_s, json("{'name': 'A', 'variables': [], 'weightVar': 'W'}")));
         QCOMPARE(readEntities(document).at(0)->getWeightVariable(), u"W"_s);
-    }
-
-    void saysWhyAFileCannotBeRead()
-    {
-        const TestFolder folder;
-        QCOMPARE(failureOfPath(folder.path(u"."_s)), folder.path(u"."_s) + u": is a directory, not a file"_s);
-        const QString missing = folder.path(u"missing.mvdb"_s);
-        QCOMPARE(failureOfPath(missing), missing + u": cannot be opened: No such file or directory"_s);
-        // Opens for everybody, and fails to be read even for the superuser.
-        const QString unreadable = failureOfPath(u"/proc/self/mem"_s);
-        QVERIFY2(unreadable.startsWith(u"/proc/self/mem: cannot be read: "_s), qPrintable(unreadable));
     }
 };
 
