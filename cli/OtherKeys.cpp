@@ -74,6 +74,8 @@ public:
     void objects(const QJsonObject &asBefore, const QJsonObject &asAfter, const ObjectKind &kind,
                  const QString &place)
     {
+        if (asBefore == asAfter) // Most are, and this is the quickest way to know.
+            return;
         const QJsonObject before = spelt(asBefore, kind);
         const QJsonObject after = spelt(asAfter, kind);
         const auto holdsObjects = [&kind](const QString &key) {
