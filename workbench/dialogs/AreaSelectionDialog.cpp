@@ -95,11 +95,9 @@ void AreaSelectionDialog::addTree()
     m_filtered->setRecursiveFilteringEnabled(true);
     m_filtered->setAutoAcceptChildRows(true); // Of a district found, its towns stay in sight.
     m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_filtered->setFilterRole(AreaTreeProxy::FilterRole);
     m_filtered->setSourceModel(m_tree);
-    auto *view = new EmptyText<QTreeView>(this);
-    view->setEmptyText(
-        tr("Open a CSV file with the columns “code”, “parent” and “name” to select areas of it."));
-    m_view = view;
+    m_view = new EmptyText<QTreeView>(this);
     m_view->setModel(m_filtered);
     Widgets::setUpTree(m_view, tr("Areas"));
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -171,6 +169,9 @@ void AreaSelectionDialog::applyFilter(const QString &text)
 void AreaSelectionDialog::refresh()
 {
     const Areas::Count count = Areas::count(m_root.get());
+    static_cast<EmptyText<QTreeView> *>(m_view)->setEmptyText(
+        m_root ? tr("No area matches the filter.")
+               : tr("Open a CSV file with the columns “code”, “parent” and “name” to select areas of it."));
     m_count->setText(tr("Areas selected: %L1 of %L2").arg(count.selected).arg(count.all));
     for (QWidget *widget : std::as_const(m_needUnits))
         widget->setEnabled(m_root != nullptr);

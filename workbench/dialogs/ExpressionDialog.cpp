@@ -94,7 +94,7 @@ ExpressionDialog::ExpressionDialog(const Workspace &workspace, QWidget *parent)
     check();
     // What was written last is not lost with the dialog.
     m_editor->setPlainText(QSettings().value(textKey()).toString());
-    m_editor->selectAll();
+    m_editor->moveCursor(QTextCursor::End); // What is inserted is added to it.
     m_editor->setFocus();
 }
 

@@ -39,15 +39,10 @@ QMimeData *ReferenceProxy::mimeData(const QModelIndexList &indexes) const
 
 ReferenceList::ReferenceList(const Texts &texts, ReferenceProxy::Reference reference, QWidget *parent)
     : QWidget(parent), m_proxy(new ReferenceProxy(std::move(reference), this)),
-      m_layout(new QVBoxLayout(this))
+      m_view(new EmptyText<QListView>(this)), m_caption(new QHBoxLayout), m_empty(texts.empty)
 {
-    auto *view = new EmptyText<QListView>(this);
-    view->setEmptyText(texts.empty);
-    m_view = view;
     m_view->setModel(m_proxy);
-    m_view->setAccessibleName(QString(texts.title).remove(u'&'));
-    m_view->setUniformItemSizes(true);
-    m_view->setIconSize(QSize(16, 16));
+    Widgets::setUpList(m_view, QString(texts.title).remove(u'&'));
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setDragDropMode(QAbstractItemView::DragOnly);
     m_view->setDefaultDropAction(Qt::CopyAction);
@@ -61,11 +56,15 @@ ReferenceList::ReferenceList(const Texts &texts, ReferenceProxy::Reference refer
     setTabOrder(m_filter, m_view);
     setTabOrder(m_view, m_button);
 
-    m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->addWidget(label);
-    m_layout->addWidget(m_filter);
-    m_layout->addWidget(m_view);
-    m_layout->addWidget(m_button);
+    m_caption->addWidget(label, 1);
+    // As high as with modes, so that lists beside each other begin at one height.
+    m_caption->addStrut(QComboBox().sizeHint().height());
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(m_caption);
+    layout->addWidget(m_filter);
+    layout->addWidget(m_view);
+    layout->addWidget(m_button);
 
     auto *insert = new QAction(texts.insert, this);
     Widgets::bindKey(m_view, Qt::Key_Return, insert);
@@ -91,8 +90,9 @@ void ReferenceList::addModes()
     m_modes->addItem(tr("Names and labels"), ShowNameAndLabel);
     m_modes->setCurrentIndex(m_modes->findData(ShowNameAndLabel));
     m_modes->setAccessibleName(tr("What to show of %1").arg(m_view->accessibleName()));
+    m_modes->view()->setAccessibleName(m_modes->accessibleName());
     m_modes->setToolTip(m_modes->accessibleName());
-    m_layout->insertWidget(1, m_modes);
+    m_caption->addWidget(m_modes);
     connect(m_modes, &QComboBox::currentIndexChanged, this, &ReferenceList::modeChanged);
     setTabOrder(m_modes, m_filter);
     setTabOrder(m_filter, m_view);
@@ -110,6 +110,8 @@ void ReferenceList::setModel(QAbstractItemModel *model, const void *current)
     m_proxy->setSourceModel(model);
     delete m_model;
     m_model = model;
+    static_cast<EmptyText<QListView> *>(m_view)->setEmptyText(
+        m_model->rowCount() > 0 ? tr("Nothing matches the filter.") : m_empty);
     setCurrent(current);
     // A reset announces no other current item.
     Q_EMIT currentChanged();

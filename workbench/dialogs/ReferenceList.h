@@ -8,10 +8,10 @@
 #include <functional>
 
 class QComboBox;
+class QHBoxLayout;
 class QLineEdit;
 class QListView;
 class QPushButton;
-class QVBoxLayout;
 
 /// Filters an expression list and says what its items are called in an expression.
 ///
@@ -78,7 +78,8 @@ private:
     QListView *m_view;
     QLineEdit *m_filter;
     QPushButton *m_button;
-    QVBoxLayout *m_layout;
+    QHBoxLayout *m_caption;
+    QString m_empty;
     QComboBox *m_modes = nullptr;
     QAbstractItemModel *m_model = nullptr;
 };

@@ -5,6 +5,14 @@
 
 QVariant AreaTreeProxy::data(const QModelIndex &index, int role) const
 {
+    if (role == FilterRole) {
+        const auto *unit = static_cast<const SelectionTreeUnit *>(mapToSource(index).internalPointer());
+        return unit
+            ? QStringList({unit->getCode(), unit->getName(), QString::fromStdString(unit->getArea().first),
+                           QString::fromStdString(unit->getArea().second)})
+                  .join(u'\n')
+            : QVariant();
+    }
     const QVariant value = RealRowProxy::data(index, role);
     // A unit without a first text would begin with a blank.
     return role == Qt::DisplayRole ? value.toString().trimmed() : value;

@@ -11,6 +11,9 @@ class AreaTreeProxy : public RealRowProxy
     Q_OBJECT
 
 public:
+    /// All that a unit is known by, shown or not: its code, its name and its texts.
+    static constexpr int FilterRole = Qt::UserRole + 1;
+
     using RealRowProxy::RealRowProxy;
 
     /// The tree whose model the source is. Null for none; not owned.
