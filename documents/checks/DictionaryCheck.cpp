@@ -35,7 +35,7 @@ QString DictionaryCheck::summary(const QList<Finding> &findings)
         return std::count_if(findings.cbegin(), findings.cend(),
                              [severity](const Finding &finding) { return finding.severity == severity; });
     };
-    return tr("Errors: %1, warnings: %2, notes: %3.")
+    return tr("Errors: %L1, warnings: %L2, notes: %L3.")
         .arg(count(Severity::Error))
         .arg(count(Severity::Warning))
         .arg(count(Severity::Note));

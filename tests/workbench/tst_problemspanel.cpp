@@ -9,9 +9,11 @@
 #include "workbench/panels/FindingsModel.h"
 #include "workbench/panels/ProblemsPanel.h"
 
+#include <QAbstractItemDelegate>
 #include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
@@ -30,6 +32,7 @@ private Q_SLOTS:
     void aChangeDuringACheckStartsItAnew();
     void saysInWordsThatNothingWasFound();
     void filtersBySeverity();
+    void showsTheEndOfALongPlace();
     void sortsBySeverityFromTheWorst();
     void keyboardGoesToThePlace();
     void stepsFromProblemToProblem();
@@ -193,6 +196,33 @@ QStringList messages(const ProblemsPanel &panel)
     return texts;
 }
 } // namespace
+
+void TestProblemsPanel::showsTheEndOfALongPlace()
+{
+    Checked bench;
+    Finding finding;
+    finding.place = u"CENSUS/HOUSEHOLD/PERSON/AGE"_s;
+    Finding other = finding;
+    other.place = u"CENSUS/HOUSEHOLD/PERSON/SEX"_s;
+    bench.panel.setFindings({finding, other});
+    const QTableView *view = bench.panel.view();
+    const auto drawn = [view](int row) {
+        QImage image(90, 20, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        QStyleOptionViewItem option;
+        option.rect = image.rect();
+        option.font = view->font();
+        option.fontMetrics = view->fontMetrics();
+        option.palette = view->palette();
+        option.state = QStyle::State_Enabled;
+        option.widget = view;
+        const QModelIndex index = view->model()->index(row, FindingsModel::PlaceColumn);
+        view->itemDelegateForIndex(index)->paint(&painter, option, index);
+        return image;
+    };
+    QVERIFY(drawn(0) != drawn(1));
+}
 
 void TestProblemsPanel::filtersBySeverity()
 {

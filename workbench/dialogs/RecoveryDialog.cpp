@@ -1,5 +1,6 @@
 #include "workbench/dialogs/RecoveryDialog.h"
 
+#include "workbench/panels/Widgets.h"
 #include "workbench/PlainMessage.h"
 
 #include <QDialogButtonBox>
@@ -47,7 +48,8 @@ RecoveryDialog::RecoveryDialog(const QList<LeftChanges> &changes, QWidget *paren
                             this);
     text->setWordWrap(true);
     text->setBuddy(m_list);
-    m_list->setAccessibleName(tr("Unsaved changes"));
+    Widgets::setUpTree(m_list, tr("Unsaved changes"));
+    m_list->header()->show();
     m_list->setHeaderLabels({tr("Dictionary"), tr("Changed on"), tr("The file")});
     m_list->setRootIsDecorated(false);
     m_list->setAlternatingRowColors(true);

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSortFilterProxyModel>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,6 +36,20 @@ protected:
 private:
     Severity m_least = Severity::Note;
 };
+
+/// Cuts places short at their beginning: the variable stands at the end.
+class PlaceDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->textElideMode = Qt::ElideLeft;
+    }
+};
 } // namespace
 
 ProblemsPanel::ProblemsPanel(QWidget *parent)
@@ -54,6 +69,7 @@ ProblemsPanel::ProblemsPanel(QWidget *parent)
     m_proxy->setSortCaseSensitivity(Qt::CaseInsensitive);
     m_proxy->setSourceModel(m_model);
     m_view->setModel(m_proxy);
+    m_view->setItemDelegateForColumn(FindingsModel::PlaceColumn, new PlaceDelegate(m_view));
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_columns = std::make_unique<ColumnMemory>(m_view, u"problems"_s);

@@ -58,6 +58,22 @@ public:
     }
 };
 
+/// Aligns titles as the cells below them.
+class AlignedHeader : public QHeaderView
+{
+public:
+    using QHeaderView::QHeaderView;
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader *option, int section) const override
+    {
+        QHeaderView::initStyleOptionForIndex(option, section);
+        const QVariant cells = model()->index(0, section).data(Qt::TextAlignmentRole);
+        if (cells.isValid())
+            option->textAlignment = Qt::Alignment(cells.toInt());
+    }
+};
+
 /// Scrolls up and down only, and so is never narrower than what it shows: texts are longer in one language
 /// than in another.
 class UpDownArea : public QScrollArea
@@ -121,6 +137,9 @@ QWidget *Widgets::scrolled(QWidget *form, QWidget *parent)
 void Widgets::setUpTable(QTableView *table, const QString &name)
 {
     table->setAccessibleName(name);
+    auto *header = new AlignedHeader(Qt::Horizontal, table);
+    header->setSectionsClickable(true);
+    table->setHorizontalHeader(header);
     table->setItemDelegate(new LegibleIcons(table));
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::ExtendedSelection);

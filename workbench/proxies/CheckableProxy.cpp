@@ -1,5 +1,14 @@
 #include "workbench/proxies/CheckableProxy.h"
 
+QVariant CheckableProxy::data(const QModelIndex &index, int role) const
+{
+    const QVariant value = QIdentityProxyModel::data(index, role);
+    if (role != Qt::TextAlignmentRole || value.isValid())
+        return value;
+    const bool isNumber = QIdentityProxyModel::data(index, Qt::DisplayRole).typeId() == QMetaType::Int;
+    return isNumber ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter)) : QVariant();
+}
+
 Qt::ItemFlags CheckableProxy::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags flags = QIdentityProxyModel::flags(index);

@@ -1,0 +1,71 @@
+#include "workbench/panels/Widgets.h"
+
+#include <QHeaderView>
+#include <QImage>
+#include <QListWidget>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestWidgets : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void titlesAreAlignedAsTheirCells_data();
+    void titlesAreAlignedAsTheirCells();
+    void rowsOfListsAreRoomy();
+};
+
+void TestWidgets::titlesAreAlignedAsTheirCells_data()
+{
+    QTest::addColumn<int>("alignment");
+    QTest::addColumn<bool>("right");
+    QTest::addRow("texts") << 0 << false;
+    QTest::addRow("numbers") << int(Qt::AlignRight | Qt::AlignVCenter) << true;
+}
+
+void TestWidgets::titlesAreAlignedAsTheirCells()
+{
+    QFETCH(const int, alignment);
+    QFETCH(const bool, right);
+    QStandardItemModel model(1, 1);
+    model.setHorizontalHeaderLabels({u"MMM"_s});
+    if (alignment != 0)
+        model.setData(model.index(0, 0), alignment, Qt::TextAlignmentRole);
+    QTableView table;
+    Widgets::setUpTable(&table, u"Table"_s);
+    table.setModel(&model);
+    table.resize(400, 100);
+    table.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    const QImage image = table.horizontalHeader()->viewport()->grab().toImage();
+    const auto darkest = [&image](int from, int to) {
+        int least = 255;
+        for (int x = from; x < to; ++x) {
+            for (int y = 4; y < image.height() - 4; ++y)
+                least = qMin(least, qGray(image.pixel(x, y)));
+        }
+        return least;
+    };
+    const int left = darkest(4, image.width() / 2);
+    const int rest = darkest(image.width() / 2, image.width() - 4);
+    QCOMPARE(rest < left, right);
+    QVERIFY(qAbs(rest - left) > 60);
+}
+
+void TestWidgets::rowsOfListsAreRoomy()
+{
+    QListWidget plain;
+    plain.addItem(u"Text"_s);
+    QListWidget list;
+    Widgets::setUpList(&list, u"List"_s);
+    list.addItem(u"Text"_s);
+    QVERIFY(list.sizeHintForRow(0) >= plain.sizeHintForRow(0) + 4);
+    QCOMPARE(list.accessibleName(), u"List"_s);
+}
+
+QTEST_MAIN(TestWidgets)
+#include "tst_widgets.moc"
