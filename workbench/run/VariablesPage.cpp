@@ -68,8 +68,9 @@ void VariablesPage::describe()
     case Step::Split:
         setObjectName(u"runSplitPage"_s);
         setTitle(tr("Split"));
-        setSubTitle(tr("Tick what tells the records apart when they are split: reference codes, labels and "
-                       "weights are offered here too."));
+        setSubTitle(
+            tr("Tick what tells the records apart when they are split. The ticks are those of the page "
+               "before; reference codes, labels and weights are offered here too."));
         return;
     case Step::Down:
         setObjectName(u"runDownPage"_s);
@@ -114,8 +115,8 @@ QWidget *VariablesPage::makeVariables()
     caption->setBuddy(m_view);
     auto *filterCaption = new QLabel(tr("Fi&lter"));
     filterCaption->setBuddy(m_filter);
-    auto *all = new QPushButton(tr("Select &All Shown"));
-    auto *none = new QPushButton(tr("Select N&one Shown"));
+    auto *all = new QPushButton(tr("&Tick Shown"));
+    auto *none = new QPushButton(tr("&Untick Shown"));
     connect(all, &QPushButton::clicked, this, [this] { check(shownRows(), true); });
     connect(none, &QPushButton::clicked, this, [this] { check(shownRows(), false); });
     connect(m_filter, &QLineEdit::textChanged, this, &VariablesPage::setFilter);
@@ -162,14 +163,25 @@ CheckListModel *VariablesPage::makeModel(TDcEntity *entity)
     return new VariableModelDownStep4(this, entity, &taken);
 }
 
+QList<TDcVariable *> VariablesPage::offered(TDcEntity *entity)
+{
+    const std::unique_ptr<CheckListModel> model(makeModel(entity));
+    QList<TDcVariable *> variables;
+    for (int row = 0; row < model->rowCount(); ++row)
+        variables.append(static_cast<TDcVariable *>(model->index(row, 0).internalPointer()));
+    return variables;
+}
+
 void VariablesPage::initializePage()
 {
     m_filter->clear();
     m_entities->clear();
+    m_offered.clear();
     const QList<TDcEntity *> chosen = draft().chosen();
     for (TDcEntity *entity : chosen) {
         auto *item = new QListWidgetItem(m_entities);
         item->setData(Qt::UserRole, QVariant::fromValue(static_cast<void *>(entity)));
+        m_offered.insert(entity, offered(entity));
     }
     m_entities->setCurrentRow(0);
     showCounts();
@@ -252,10 +264,12 @@ void VariablesPage::showCounts()
     for (int row = 0; row < m_entities->count(); ++row) {
         QListWidgetItem *item = m_entities->item(row);
         const auto *entity = static_cast<TDcEntity *>(item->data(Qt::UserRole).value<void *>());
+        const QList<TDcVariable *> &variables = m_offered[entity];
+        const auto ticked = std::count_if(variables.cbegin(), variables.cend(),
+                                          [](const TDcVariable *variable) { return variable->getChecked(); });
         item->setText(tr("%1 (%2 of %3)")
-                          .arg(entity->getName(),
-                               locale().toString(RunDraft::checkedVariables(entity).size()),
-                               locale().toString(entity->getVariables()->size())));
+                          .arg(entity->getName(), locale().toString(qsizetype(ticked)),
+                               locale().toString(variables.size())));
     }
     if (const TDcEntity *entity = current())
         m_all->setChecked(draft().settings(entity).getAllVariables());

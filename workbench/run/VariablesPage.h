@@ -41,6 +41,8 @@ private:
     [[nodiscard]] QWidget *makeEntities();
     [[nodiscard]] QWidget *makeVariables();
     [[nodiscard]] CheckListModel *makeModel(TDcEntity *entity);
+    /// What the page has to choose from of \a entity.
+    [[nodiscard]] QList<TDcVariable *> offered(TDcEntity *entity);
 
     void showEntity();
     void arrangeColumns();
@@ -60,6 +62,7 @@ private:
     QLineEdit *m_filter;
     QTableView *m_view;
     QLabel *m_count;
+    QHash<const TDcEntity *, QList<TDcVariable *>> m_offered;
     CheckListModel *m_model = nullptr;
     CheckableProxy *m_checkable;
     QSortFilterProxyModel *m_proxy;
