@@ -8,12 +8,16 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-/// The size in "1280x800"; empty when \a text is none.
+// More than any display has. A picture of this size takes a quarter of a gigabyte.
+constexpr int mostPixels = 8192;
+
+/// The size in "1280x800"; empty when \a text is none, or too large.
 QSize toSize(const QString &text)
 {
     static const QRegularExpression pattern(u"^([1-9]\\d{1,4})x([1-9]\\d{1,4})$"_s);
     const QRegularExpressionMatch match = pattern.match(text);
-    return match.hasMatch() ? QSize(match.captured(1).toInt(), match.captured(2).toInt()) : QSize();
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    return qMax(size.width(), size.height()) <= mostPixels ? size : QSize();
 }
 } // namespace
 
@@ -52,7 +56,7 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     else if (!line.tour.isEmpty() && line.file.isEmpty())
         line.error = tr("The tour needs a dictionary to go through.");
     else if (parser.isSet(size) && line.size.isEmpty())
-        line.error = tr("The size is written as in 1280x800.");
+        line.error = tr("The size is written as in 1280x800. Neither number is above %1.").arg(mostPixels);
     else if (!QStringList{u"light"_s, u"dark"_s, u"system"_s}.contains(line.theme))
         line.error = tr("The theme is light, dark or system.");
     return line;

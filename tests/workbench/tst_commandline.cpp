@@ -11,6 +11,7 @@ class TestCommandLine : public QObject
 private Q_SLOTS:
     void readsEverything();
     void takesAFileWithoutAnOption();
+    void takesTheLargestSize();
     void isForPictures_data();
     void isForPictures();
     void saysWhatIsWrong_data();
@@ -45,6 +46,13 @@ void TestCommandLine::takesAFileWithoutAnOption()
     QCOMPARE(line.error, QString());
 }
 
+void TestCommandLine::takesTheLargestSize()
+{
+    const CommandLine line = parse(u"--size 8192x8192"_s);
+    QCOMPARE(line.error, QString());
+    QCOMPARE(line.size, QSize(8192, 8192));
+}
+
 void TestCommandLine::isForPictures_data()
 {
     QTest::addColumn<QString>("arguments");
@@ -68,6 +76,9 @@ void TestCommandLine::saysWhatIsWrong_data()
     QTest::newRow("size without height") << u"--size 1280"_s;
     QTest::newRow("size of nothing") << u"--size 0x800"_s;
     QTest::newRow("size beyond any display") << u"--size 1000000x800"_s;
+    QTest::newRow("size beyond memory") << u"--size 99999x99999"_s;
+    QTest::newRow("one pixel too wide") << u"--size 8193x800"_s;
+    QTest::newRow("one pixel too high") << u"--size 800x8193"_s;
     QTest::newRow("unknown theme") << u"--theme purple"_s;
     QTest::newRow("tour through nothing") << u"--tour pictures"_s;
 }
