@@ -6,12 +6,21 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QTest>
 #include <QXmlStreamReader>
 
 /// The files with translations, as tests look at them.
 namespace TsFiles
 {
 using namespace Qt::Literals::StringLiterals;
+
+/// The rows of a test of each language that there are translations to.
+inline void addTranslations()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addRow("German") << u"de"_s;
+    QTest::addRow("Spanish") << u"es"_s;
+}
 
 struct Message {
     QString context;

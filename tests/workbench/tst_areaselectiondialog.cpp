@@ -1,6 +1,8 @@
 #include "tests/support/MessageBoxAnswer.h"
+#include "tests/workbench/Controls.h"
 #include "tests/workbench/IsolatedSettings.h"
 #include "workbench/dialogs/AreaSelectionDialog.h"
+#include "workbench/panels/EmptyText.h"
 
 #include <QAbstractItemModel>
 #include <QApplication>
@@ -40,6 +42,9 @@ private Q_SLOTS:
     void selectsByKeyboardAlone();
     void selectsByClick();
     void filtersAndKeepsParents();
+    void filtersByWhatIsNotShown_data();
+    void filtersByWhatIsNotShown();
+    void saysWhyItIsEmpty();
     void expandsAndCollapsesAll();
     void showsCodesAndNames();
     void copiesTheFewestCodes();
@@ -56,7 +61,10 @@ private:
     [[nodiscard]] QStringList lines(const QModelIndex &parent = {}, int depth = 0) const;
     [[nodiscard]] QModelIndex find(const QString &text) const;
     [[nodiscard]] QString count() const { return m_dialog->findChild<QLabel *>(u"areaCount"_s)->text(); }
-    [[nodiscard]] QPushButton *button(const QString &name) const;
+    [[nodiscard]] QPushButton *button(const QString &name) const
+    {
+        return Controls::button<QPushButton>(m_dialog.get(), name);
+    }
 
     std::unique_ptr<IsolatedSettings> m_settings;
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -104,15 +112,6 @@ QModelIndex TestAreaSelectionDialog::find(const QString &text) const
     const QAbstractItemModel *model = m_dialog->view()->model();
     return model->match(model->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly | Qt::MatchRecursive)
         .value(0);
-}
-
-QPushButton *TestAreaSelectionDialog::button(const QString &name) const
-{
-    const QList<QPushButton *> buttons = m_dialog->findChildren<QPushButton *>();
-    const auto found = std::find_if(buttons.cbegin(), buttons.cend(), [&name](const QPushButton *candidate) {
-        return candidate->text().remove(u'&') == name;
-    });
-    return found == buttons.cend() ? nullptr : *found;
 }
 
 void TestAreaSelectionDialog::startsWithoutAFile()
@@ -196,6 +195,36 @@ void TestAreaSelectionDialog::filtersAndKeepsParents()
     QCOMPARE(lines().size(), 6);
     QVERIFY(m_dialog->view()->currentIndex().isValid());
     QCOMPARE(m_dialog->text(), u"1"_s);
+}
+
+void TestAreaSelectionDialog::filtersByWhatIsNotShown_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<bool>("found");
+    QTest::addRow("code") << u"a1"_s << true;
+    QTest::addRow("name") << u"north"_s << true;
+    QTest::addRow("first text") << u"First"_s << true;
+    QTest::addRow("second text") << u"prov"_s << true;
+    QTest::addRow("code and name at once") << u"A1 North"_s << false;
+}
+
+void TestAreaSelectionDialog::filtersByWhatIsNotShown()
+{
+    QFETCH(const QString, filter);
+    QFETCH(const bool, found);
+    QVERIFY(m_dialog->load(
+        write("code,parent,name,area1,area2\nA0,,Country,Land,Whole\nA1,A0,North,First,Prov\n")));
+    m_dialog->findChild<QLineEdit *>()->setText(filter);
+    QCOMPARE(lines(), found ? QStringList({u"-Land Whole"_s, u" -First Prov"_s}) : QStringList());
+}
+
+void TestAreaSelectionDialog::saysWhyItIsEmpty()
+{
+    const auto words = [this] { return static_cast<EmptyText<QTreeView> *>(m_dialog->view())->emptyText(); };
+    QVERIFY(words().startsWith(u"Open a CSV file"_s));
+    QVERIFY(m_dialog->load(write(provinces)));
+    m_dialog->findChild<QLineEdit *>()->setText(u"nowhere"_s);
+    QCOMPARE(words(), u"No area matches the filter."_s);
 }
 
 void TestAreaSelectionDialog::expandsAndCollapsesAll()

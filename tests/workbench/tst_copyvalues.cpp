@@ -3,6 +3,7 @@
 #include "model/MetadataVariables.h"
 #include "model/ValueLabelElement.h"
 #include "tests/workbench/Bench.h"
+#include "tests/workbench/Controls.h"
 #include "workbench/dialogs/CopyValuesDialog.h"
 #include "workbench/operations/ValueCopies.h"
 
@@ -40,7 +41,10 @@ private Q_SLOTS:
 private:
     [[nodiscard]] static QString values(const TDcVariable &variable);
     [[nodiscard]] TDcVariable &variable(const QString &name) { return *m_bench->variable(name); }
-    [[nodiscard]] QPushButton *button(const QDialog &dialog, const QString &text) const;
+    [[nodiscard]] static QPushButton *button(const QDialog &dialog, const QString &text)
+    {
+        return Controls::button<QPushButton>(&dialog, text);
+    }
 
     std::unique_ptr<Bench> m_bench;
 };
@@ -90,14 +94,6 @@ QString TestCopyValues::values(const TDcVariable &variable)
     }
     words.append(QString::number(variable.getMissing()));
     return words.join(u' ');
-}
-
-QPushButton *TestCopyValues::button(const QDialog &dialog, const QString &text) const
-{
-    const auto buttons = dialog.findChildren<QPushButton *>();
-    const auto found = std::find_if(buttons.cbegin(), buttons.cend(),
-                                    [&text](const QPushButton *each) { return each->text() == text; });
-    return found == buttons.cend() ? nullptr : *found;
 }
 
 void TestCopyValues::replaces()
@@ -191,8 +187,8 @@ void TestCopyValues::copiesNoKindThatTheSourceLacks()
         QCOMPARE(kind->toolTip(), u"WAGE has none."_s);
     }
     QVERIFY(kinds.at(2)->isEnabled());
-    button(dialog, u"&Tick Shown"_s)->click();
-    button(dialog, u"&Copy"_s)->click();
+    button(dialog, u"Tick Shown"_s)->click();
+    button(dialog, u"Copy"_s)->click();
     QCOMPARE(values(variable(u"AGE"_s)), u"1=One 0..99 0"_s);
 
     m_bench->selection.select(u"PERSON/AGE"_s);
@@ -206,25 +202,25 @@ void TestCopyValues::ticksWhatTheFilterShows()
     const CopyValuesDialog dialog(m_bench->workspace());
     const auto *preview = dialog.findChild<QLabel *>(u"copyValuesPreview"_s);
     QCOMPARE(preview->text(), u"Tick the variables to copy to."_s);
-    QVERIFY(!button(dialog, u"&Copy"_s)->isEnabled());
+    QVERIFY(!button(dialog, u"Copy"_s)->isEnabled());
     dialog.findChild<QLineEdit *>()->setText(u"monthly"_s);
-    button(dialog, u"&Tick Shown"_s)->click();
-    QVERIFY(button(dialog, u"&Copy"_s)->isEnabled());
+    button(dialog, u"Tick Shown"_s)->click();
+    QVERIFY(button(dialog, u"Copy"_s)->isEnabled());
     QCOMPARE(preview->text(), u"One variable will change."_s);
     dialog.findChild<QLineEdit *>()->clear();
     const auto *model = dialog.findChild<QStandardItemModel *>();
     QCOMPARE(model->item(0)->checkState(), Qt::Unchecked);
     QCOMPARE(model->item(1)->checkState(), Qt::Checked);
-    button(dialog, u"&Untick Shown"_s)->click();
-    QVERIFY(!button(dialog, u"&Copy"_s)->isEnabled());
+    button(dialog, u"Untick Shown"_s)->click();
+    QVERIFY(!button(dialog, u"Copy"_s)->isEnabled());
 }
 
 void TestCopyValues::copiesInOneStep()
 {
     const auto before = DictionaryCopy::copy(*m_bench->document.root());
     CopyValuesDialog dialog(m_bench->workspace());
-    button(dialog, u"&Tick Shown"_s)->click();
-    button(dialog, u"&Copy"_s)->click();
+    button(dialog, u"Tick Shown"_s)->click();
+    button(dialog, u"Copy"_s)->click();
     QCOMPARE(values(variable(u"AGE"_s)), u"1=Man 2=Woman 1..2 0"_s);
     QUndoStack *stack = m_bench->document.undoStack();
     QCOMPARE(stack->count(), 1);
@@ -237,7 +233,7 @@ void TestCopyValues::namesTheOnlyTarget()
 {
     CopyValuesDialog dialog(m_bench->workspace());
     dialog.findChild<QStandardItemModel *>()->item(1)->setCheckState(Qt::Checked);
-    button(dialog, u"&Copy"_s)->click();
+    button(dialog, u"Copy"_s)->click();
     QCOMPARE(m_bench->undoText(), u"copying values of SEX to WAGE"_s);
 }
 

@@ -376,7 +376,7 @@ void TestEndToEnd::makesARunConfiguration()
             m_person.clickRow(u"entities"_s, 1);
         else
             m_person.press({u"alt+e"_s, u"Down"_s});
-        takeAll(u"Select All Shown"_s);
+        takeAll(u"Tick Shown"_s);
         goOn(); // To splitting,
         goOn(); // downloading,
         goOn(); // and what it all comes to.

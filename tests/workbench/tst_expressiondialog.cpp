@@ -1,10 +1,12 @@
 #include "model/ValueLabelElement.h"
 #include "tests/workbench/Bench.h"
+#include "tests/workbench/Controls.h"
 #include "tests/workbench/IsolatedSettings.h"
 #include "workbench/dialogs/ExpressionDialog.h"
 #include "workbench/dialogs/ExpressionEdit.h"
 #include "workbench/dialogs/ReferenceList.h"
 #include "workbench/MainWindow.h"
+#include "workbench/panels/EmptyText.h"
 #include "workbench/panels/EntityForm.h"
 
 #include <QApplication>
@@ -35,6 +37,9 @@ private Q_SLOTS:
     void showsVariablesAndCategoriesOfTheCurrent();
     void showsItemsAsChosen();
     void filtersWithoutRegardToCase();
+    void saysWhyAListIsEmpty();
+    void listsBeginAtOneHeight();
+    void addsToTheTextOfTheLastTime();
     void buildsAnExpressionByKeyboardAlone();
     void insertsByDoubleClick();
     void takesDrops_data();
@@ -54,7 +59,10 @@ private Q_SLOTS:
 private:
     [[nodiscard]] QStringList rows(const ReferenceList *list) const;
     [[nodiscard]] QString text() const { return m_dialog->editor()->toPlainText(); }
-    [[nodiscard]] QPushButton *button(const QString &name) const;
+    [[nodiscard]] QPushButton *button(const QString &name) const
+    {
+        return Controls::button<QPushButton>(m_dialog.get(), name);
+    }
     void select(ReferenceList *list, int row)
     {
         list->view()->setCurrentIndex(list->view()->model()->index(row, 0));
@@ -97,15 +105,6 @@ QStringList TestExpressionDialog::rows(const ReferenceList *list) const
     for (int row = 0; row < list->view()->model()->rowCount(); ++row)
         texts.append(list->view()->model()->index(row, 0).data().toString());
     return texts;
-}
-
-QPushButton *TestExpressionDialog::button(const QString &name) const
-{
-    const QList<QPushButton *> buttons = m_dialog->findChildren<QPushButton *>();
-    const auto found = std::find_if(buttons.cbegin(), buttons.cend(), [&name](const QPushButton *candidate) {
-        return candidate->text().remove(u'&') == name;
-    });
-    return found == buttons.cend() ? nullptr : *found;
 }
 
 void TestExpressionDialog::startsAtTheSelection()
@@ -160,6 +159,35 @@ void TestExpressionDialog::filtersWithoutRegardToCase()
     filter->clear();
     QCOMPARE(rows(m_dialog->variables()).size(), 3);
     QVERIFY(m_dialog->variables()->view()->currentIndex().isValid());
+}
+
+void TestExpressionDialog::saysWhyAListIsEmpty()
+{
+    const auto words = [](const ReferenceList *list) {
+        return static_cast<EmptyText<QListView> *>(list->view())->emptyText();
+    };
+    m_dialog->variables()->findChild<QLineEdit *>()->setText(u"nowhere"_s);
+    QCOMPARE(rows(m_dialog->variables()), QStringList());
+    QCOMPARE(words(m_dialog->variables()), u"Nothing matches the filter."_s);
+    select(m_dialog->entities(), 0);
+    QCOMPARE(words(m_dialog->variables()), u"The entity has no variables."_s);
+    QCOMPARE(words(m_dialog->categories()), u"The variable has no value labels."_s);
+}
+
+void TestExpressionDialog::listsBeginAtOneHeight()
+{
+    const int height = m_dialog->entities()->view()->geometry().top();
+    QCOMPARE(m_dialog->variables()->view()->geometry().top(), height);
+    QCOMPARE(m_dialog->categories()->view()->geometry().top(), height);
+}
+
+void TestExpressionDialog::addsToTheTextOfTheLastTime()
+{
+    m_dialog->editor()->setPlainText(u"PERSON.AGE"_s);
+    m_dialog->close();
+    m_dialog = std::make_unique<ExpressionDialog>(m_bench->workspace());
+    m_dialog->editor()->insertPiece(u">="_s);
+    QCOMPARE(text(), u"PERSON.AGE >="_s);
 }
 
 void TestExpressionDialog::buildsAnExpressionByKeyboardAlone()

@@ -3,6 +3,7 @@
 #include "model/ValueLabelElement.h"
 #include "tests/support/MessageBoxAnswer.h"
 #include "tests/workbench/Bench.h"
+#include "tests/workbench/Controls.h"
 #include "workbench/dialogs/LabelSetsDialog.h"
 #include "workbench/operations/LabelSets.h"
 
@@ -48,7 +49,10 @@ private:
     void setLabels(const QString &name, const QString &labels);
     [[nodiscard]] QString labels(const QString &name);
     [[nodiscard]] QList<LabelSets::Set> shared() { return LabelSets::shared(m_bench->document.root()); }
-    [[nodiscard]] static QPushButton *button(const QDialog &dialog, const QString &text);
+    [[nodiscard]] static QPushButton *button(const QDialog &dialog, const QString &text)
+    {
+        return Controls::button<QPushButton>(&dialog, text);
+    }
 
     std::unique_ptr<Bench> m_bench;
 };
@@ -80,15 +84,6 @@ QString TestLabelSets::labels(const QString &name)
          std::as_const(*m_bench->variable(name)->getValueLabelElementList()))
         words.append(element->getValue() + u'=' + element->getLabel());
     return words.join(u' ');
-}
-
-QPushButton *TestLabelSets::button(const QDialog &dialog, const QString &text)
-{
-    const auto buttons = dialog.findChildren<QPushButton *>();
-    const auto found = std::find_if(buttons.cbegin(), buttons.cend(), [&text](const QPushButton *each) {
-        return each->text().remove(u'&') == text;
-    });
-    return found == buttons.cend() ? nullptr : *found;
 }
 
 void TestLabelSets::findsSharedSets()

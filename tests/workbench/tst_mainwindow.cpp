@@ -1,6 +1,8 @@
 #include "tests/support/MessageBoxAnswer.h"
 #include "tests/support/Trees.h"
+#include "tests/workbench/Controls.h"
 #include "tests/workbench/IsolatedSettings.h"
+#include "tests/workbench/LabelledVariables.h"
 #include "workbench/FileCommands.h"
 #include "workbench/MainWindow.h"
 #include "workbench/operations/Places.h"
@@ -8,10 +10,8 @@
 #include "workbench/panels/VariableForm.h"
 #include "workbench/panels/VariableTablePanel.h"
 
-#include <QAbstractSpinBox>
-#include <QAccessible>
 #include <QAction>
-#include <QComboBox>
+#include <QDialog>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -42,6 +42,8 @@ private Q_SLOTS:
     void opensADroppedFile();
     void remembersFilesAndLayout();
     void everyControlHasAnAccessibleName();
+    void everyControlOfADialogHasAnAccessibleName_data();
+    void everyControlOfADialogHasAnAccessibleName();
     void shortcutsAreUnique();
 
 private:
@@ -216,21 +218,29 @@ void TestMainWindow::remembersFilesAndLayout()
 
 void TestMainWindow::everyControlHasAnAccessibleName()
 {
-    const QList<QWidget *> widgets = m_window->findChildren<QWidget *>();
-    QStringList nameless;
-    for (const QWidget *widget : widgets) {
-        const QWidget *parent = widget->parentWidget();
-        const bool inside =
-            qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent);
-        if (widget->focusPolicy() == Qt::NoFocus || inside || widget->objectName().startsWith(u"qt_"_s))
-            continue;
-        const QAccessibleInterface *accessible =
-            QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget));
-        if (accessible && accessible->text(QAccessible::Name).isEmpty())
-            nameless.append(u"%1 in %2"_s.arg(QLatin1StringView(widget->metaObject()->className()),
-                                              QLatin1StringView(parent->metaObject()->className())));
-    }
-    QCOMPARE(nameless.join(u", "_s), QString());
+    QCOMPARE(Controls::nameless(m_window.get()).join(u", "_s), QString());
+}
+
+void TestMainWindow::everyControlOfADialogHasAnAccessibleName_data()
+{
+    QTest::addColumn<ActionId>("opens");
+    QTest::addRow("expression") << ActionId::ToolsExpression;
+    QTest::addRow("areas") << ActionId::ToolsAreas;
+    QTest::addRow("run configuration") << ActionId::ToolsNewRun;
+    QTest::addRow("many variables") << ActionId::VariableEditTogether;
+    QTest::addRow("copied values") << ActionId::ValuesCopyTo;
+    QTest::addRow("label sets") << ActionId::ValuesLabelSets;
+}
+
+void TestMainWindow::everyControlOfADialogHasAnAccessibleName()
+{
+    QFETCH(const ActionId, opens);
+    addLabelledVariables(*m_window);
+    (*m_window->actions())[opens]->trigger();
+    const auto *dialog = m_window->findChild<QDialog *>();
+    QVERIFY(dialog);
+    QCOMPARE(Controls::nameless(dialog).join(u", "_s), QString());
+    m_window->document()->undoStack()->setClean();
 }
 
 void TestMainWindow::shortcutsAreUnique()

@@ -1,11 +1,14 @@
 #include "tests/workbench/IsolatedSettings.h"
 #include "tests/workbench/LabelledVariables.h"
 #include "tests/workbench/TsFiles.h"
+#include "workbench/run/RunDraft.h"
+#include "workbench/run/RunWizard.h"
 #include "workbench/Translations.h"
 
 #include <QAbstractButton>
 #include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -74,12 +77,20 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void ofMenusAndPanelsAreUnique_data();
+    void ofMenusAndPanelsAreUnique_data() { addLanguages(); }
     void ofMenusAndPanelsAreUnique();
     void ofDialogsAreUnique_data();
     void ofDialogsAreUnique();
+    void ofTheWizardAreUniqueOnEachPage_data() { addLanguages(); }
+    void ofTheWizardAreUniqueOnEachPage();
 
 private:
+    static void addLanguages()
+    {
+        addTranslations();
+        QTest::addRow("English") << u"en"_s;
+    }
+
     std::unique_ptr<IsolatedSettings> m_settings;
 };
 
@@ -92,14 +103,6 @@ void TestMnemonics::cleanup()
 {
     Translations::install(u"C"_s);
     m_settings.reset();
-}
-
-void TestMnemonics::ofMenusAndPanelsAreUnique_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addRow("German") << u"de"_s;
-    QTest::addRow("Spanish") << u"es"_s;
-    QTest::addRow("English") << u"en"_s;
 }
 
 void TestMnemonics::ofMenusAndPanelsAreUnique()
@@ -123,7 +126,6 @@ void TestMnemonics::ofDialogsAreUnique_data()
         };
         add("expression", ActionId::ToolsExpression);
         add("areas", ActionId::ToolsAreas);
-        add("run configuration", ActionId::ToolsNewRun);
         add("many variables", ActionId::VariableEditTogether);
         add("copied values", ActionId::ValuesCopyTo);
         add("label sets", ActionId::ValuesLabelSets);
@@ -141,11 +143,31 @@ void TestMnemonics::ofDialogsAreUnique()
     (*window.actions())[opens]->trigger();
     const auto *dialog = window.findChild<QDialog *>();
     QVERIFY(dialog);
-    QList<QWizardPage *> pages = dialog->findChildren<QWizardPage *>();
-    if (pages.isEmpty())
-        pages.append(nullptr); // It has no pages that take turns.
-    for (const QWizardPage *page : std::as_const(pages))
-        QCOMPARE(clashes(texts(*dialog, page)).join(u'\n'), QString());
+    QCOMPARE(clashes(texts(*dialog)).join(u'\n'), QString());
+}
+
+void TestMnemonics::ofTheWizardAreUniqueOnEachPage()
+{
+    QFETCH(const QString, language);
+    Translations::install(language);
+    MainWindow window;
+    addLabelledVariables(window);
+    window.show();
+    (*window.actions())[ActionId::ToolsNewRun]->trigger();
+    auto *wizard = window.findChild<RunWizard *>();
+    QVERIFY(wizard);
+    wizard->draft().chooseEntities(true);
+    wizard->currentPage()->findChild<QLineEdit *>(u"name"_s)->setText(u"x"_s);
+    for (;;) {
+        // The wizard's own buttons differ from page to page.
+        QCOMPARE(clashes(texts(*wizard, wizard->currentPage())).join(u'\n'), QString());
+        if (wizard->nextId() < 0)
+            break;
+        const int before = wizard->currentId();
+        wizard->next();
+        QVERIFY(wizard->currentId() != before);
+    }
+    QCOMPARE(wizard->currentPage()->objectName(), u"runSummaryPage"_s);
 }
 
 QTEST_MAIN(TestMnemonics)

@@ -40,21 +40,11 @@ private Q_SLOTS:
     void noMacroHidesATextFromTheCollector();
     void translationsFitTheirTexts_data();
     void translationsFitTheirTexts();
-
-private:
-    void addLanguages();
 };
-
-void TestTranslationFiles::addLanguages()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addRow("German") << u"de"_s;
-    QTest::addRow("Spanish") << u"es"_s;
-}
 
 void TestTranslationFiles::everyTextIsTranslated_data()
 {
-    addLanguages();
+    addTranslations();
     QTest::addRow("English plurals") << u"en"_s;
 }
 
@@ -108,7 +98,7 @@ void TestTranslationFiles::noMacroHidesATextFromTheCollector()
 
 void TestTranslationFiles::translationsFitTheirTexts_data()
 {
-    addLanguages();
+    addTranslations();
 }
 
 void TestTranslationFiles::translationsFitTheirTexts()

@@ -68,8 +68,6 @@ private Q_SLOTS:
     void englishIsALanguageOfItsOwn();
 
 private:
-    void addLanguages();
-
     std::unique_ptr<IsolatedSettings> m_settings;
 };
 
@@ -82,13 +80,6 @@ void TestTranslations::cleanup()
 {
     Translations::install(u"C"_s);
     m_settings.reset();
-}
-
-void TestTranslations::addLanguages()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addRow("German") << u"de"_s;
-    QTest::addRow("Spanish") << u"es"_s;
 }
 
 /// A translation under another context than the program asks for would never be seen.
@@ -127,7 +118,7 @@ void TestTranslations::textsAreAskedForWhereTheyStand()
 
 void TestTranslations::formsHaveRoomForTheirTexts_data()
 {
-    addLanguages();
+    addTranslations();
     QTest::addRow("English") << u"en"_s;
 }
 

@@ -7,6 +7,7 @@
 #include "workbench/PlainMessage.h"
 #include "workbench/Selection.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
@@ -140,6 +141,7 @@ EditTogetherDialog::Row EditTogetherDialog::createRow(const VariableProperty &pr
         auto *control = new QComboBox(this);
         control->setEditable(true);
         control->addItems(VariableProperties::typeWords());
+        control->view()->setAccessibleName(property.title());
         control->setEditText(shared.toString());
         explainEmptiness(control->lineEdit(), box, mixed);
         connect(control, &QComboBox::editTextChanged, box, touch);

@@ -606,6 +606,10 @@
         <source>CSV files (*.csv)</source>
         <translation>CSV-Dateien (*.csv)</translation>
     </message>
+    <message>
+        <source>No area matches the filter.</source>
+        <translation>Kein Gebiet passt zum Filter.</translation>
+    </message>
 </context>
 <context>
     <name>AreaUnitFile</name>
@@ -893,10 +897,6 @@
         <translation>Bitte nur ein Wörterbuch auf einmal.</translation>
     </message>
     <message>
-        <source>The size is written as in 1280x800.</source>
-        <translation>Die Größe wird wie in 1280x800 geschrieben.</translation>
-    </message>
-    <message>
         <source>The theme is light, dark or system.</source>
         <translation>Das Thema ist light, dark oder system.</translation>
     </message>
@@ -907,6 +907,10 @@
     <message>
         <source>The tour needs a dictionary to go through.</source>
         <translation>Der Rundgang braucht ein Wörterbuch, das er zeigt.</translation>
+    </message>
+    <message>
+        <source>The size is written as in 1280x800. Neither number is above %1.</source>
+        <translation>Die Größe wird wie in 1280x800 geschrieben. Keine der Zahlen ist größer als %1.</translation>
     </message>
 </context>
 <context>
@@ -977,7 +981,7 @@
     </message>
     <message>
         <source>&amp;Untick Shown</source>
-        <translation>Gezeigte &amp;nicht ankreuzen</translation>
+        <translation>Gezeig&amp;te abwählen</translation>
     </message>
     <message>
         <source>Variable</source>
@@ -1161,10 +1165,6 @@
     <message>
         <source>No problems found.</source>
         <translation>Keine Probleme gefunden.</translation>
-    </message>
-    <message>
-        <source>Errors: %1, warnings: %2, notes: %3.</source>
-        <translation>Fehler: %1, Warnungen: %2, Hinweise: %3.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -1825,6 +1825,10 @@
     <message>
         <source>A field has a start but no length</source>
         <translation>Ein Feld hat einen Anfang, aber keine Länge</translation>
+    </message>
+    <message>
+        <source>Errors: %L1, warnings: %L2, notes: %L3.</source>
+        <translation>Fehler: %L1, Warnungen: %L2, Hinweise: %L3.</translation>
     </message>
 </context>
 <context>
@@ -3255,6 +3259,10 @@
         <source>What to show of %1</source>
         <translation>Was gezeigt wird: %1</translation>
     </message>
+    <message>
+        <source>Nothing matches the filter.</source>
+        <translation>Nichts passt zum Filter.</translation>
+    </message>
 </context>
 <context>
     <name>RunCommands</name>
@@ -4294,10 +4302,6 @@ Soll sie es bleiben?</translation>
         <translation>Aufteilen</translation>
     </message>
     <message>
-        <source>Tick what tells the records apart when they are split: reference codes, labels and weights are offered here too.</source>
-        <translation>Setzen Sie Häkchen bei dem, was die Datensätze beim Aufteilen unterscheidet: Auch Referenzcodes, Labels und Gewichte werden hier angeboten.</translation>
-    </message>
-    <message>
         <source>Download</source>
         <translation>Herunterladen</translation>
     </message>
@@ -4322,14 +4326,6 @@ Soll sie es bleiben?</translation>
         <translation>Fi&amp;lter</translation>
     </message>
     <message>
-        <source>Select &amp;All Shown</source>
-        <translation>&amp;Alle gezeigten auswählen</translation>
-    </message>
-    <message>
-        <source>Select N&amp;one Shown</source>
-        <translation>&amp;Keine gezeigten auswählen</translation>
-    </message>
-    <message>
         <source>No variable matches the filter.</source>
         <translation>Keine Variable passt zum Filter.</translation>
     </message>
@@ -4352,6 +4348,18 @@ Soll sie es bleiben?</translation>
     <message>
         <source>Variables: %L1 of %L2</source>
         <translation>Variablen: %L1 von %L2</translation>
+    </message>
+    <message>
+        <source>Tick what tells the records apart when they are split. The ticks are those of the page before; reference codes, labels and weights are offered here too.</source>
+        <translation>Setzen Sie Häkchen bei dem, was die Datensätze beim Aufteilen unterscheidet. Die Häkchen sind die der vorigen Seite; auch Referenzcodes, Labels und Gewichte werden hier angeboten.</translation>
+    </message>
+    <message>
+        <source>&amp;Tick Shown</source>
+        <translation>Gezeigte &amp;ankreuzen</translation>
+    </message>
+    <message>
+        <source>&amp;Untick Shown</source>
+        <translation>Gezeig&amp;te abwählen</translation>
     </message>
 </context>
 <context>

@@ -606,6 +606,10 @@
         <source>CSV files (*.csv)</source>
         <translation>Archivos CSV (*.csv)</translation>
     </message>
+    <message>
+        <source>No area matches the filter.</source>
+        <translation>Ninguna área coincide con el filtro.</translation>
+    </message>
 </context>
 <context>
     <name>AreaUnitFile</name>
@@ -893,10 +897,6 @@
         <translation>Un solo diccionario a la vez, por favor.</translation>
     </message>
     <message>
-        <source>The size is written as in 1280x800.</source>
-        <translation>El tamaño se escribe como en 1280x800.</translation>
-    </message>
-    <message>
         <source>The theme is light, dark or system.</source>
         <translation>El tema es light, dark o system.</translation>
     </message>
@@ -907,6 +907,10 @@
     <message>
         <source>The tour needs a dictionary to go through.</source>
         <translation>El recorrido necesita un diccionario que mostrar.</translation>
+    </message>
+    <message>
+        <source>The size is written as in 1280x800. Neither number is above %1.</source>
+        <translation>El tamaño se escribe como en 1280x800. Ningún número es mayor que %1.</translation>
     </message>
 </context>
 <context>
@@ -977,7 +981,7 @@
     </message>
     <message>
         <source>&amp;Untick Shown</source>
-        <translation>&amp;Quitar marca a las mostradas</translation>
+        <translation>Desmarcar las m&amp;ostradas</translation>
     </message>
     <message>
         <source>Variable</source>
@@ -1163,10 +1167,6 @@
         <translation>No se encontraron problemas.</translation>
     </message>
     <message>
-        <source>Errors: %1, warnings: %2, notes: %3.</source>
-        <translation>Errores: %1, advertencias: %2, notas: %3.</translation>
-    </message>
-    <message>
         <source>Error</source>
         <translation>Error</translation>
     </message>
@@ -1288,11 +1288,11 @@
     </message>
     <message>
         <source>The variable &quot;%1&quot; has the tag %2 too.</source>
-        <translation>La variable «%1» también tiene la marca %2.</translation>
+        <translation>La variable «%1» también tiene el número %2.</translation>
     </message>
     <message>
         <source>Give each variable a tag of its own.</source>
-        <translation>Dé a cada variable una marca propia.</translation>
+        <translation>Dé a cada variable un número propio.</translation>
     </message>
     <message>
         <source>The positions %1 to %2 overlap those of &quot;%3&quot;, which end at %4.</source>
@@ -1328,7 +1328,7 @@
     </message>
     <message>
         <source>Two variables of an entity have the same tag</source>
-        <translation>Dos variables de una entidad tienen la misma marca</translation>
+        <translation>Dos variables de una entidad tienen el mismo número</translation>
     </message>
     <message>
         <source>Two variables lie on the same positions of a record</source>
@@ -1752,11 +1752,11 @@
     </message>
     <message>
         <source>The tag %1 is not between 0 and %2.</source>
-        <translation>La marca %1 no está entre 0 y %2.</translation>
+        <translation>El número %1 no está entre 0 y %2.</translation>
     </message>
     <message>
         <source>Choose another tag: it would be changed by the next edit.</source>
-        <translation>Elija otra marca: la siguiente edición la cambiaría.</translation>
+        <translation>Elija otro número: la siguiente edición lo cambiaría.</translation>
     </message>
     <message>
         <source>The variable is a lookup, but its entity is not selectable.</source>
@@ -1816,7 +1816,7 @@
     </message>
     <message>
         <source>A tag is out of bounds</source>
-        <translation>Una marca está fuera de los límites</translation>
+        <translation>Un número está fuera de los límites</translation>
     </message>
     <message>
         <source>A lookup stands in an entity that is not selectable</source>
@@ -1825,6 +1825,10 @@
     <message>
         <source>A field has a start but no length</source>
         <translation>Un campo tiene inicio pero no longitud</translation>
+    </message>
+    <message>
+        <source>Errors: %L1, warnings: %L2, notes: %L3.</source>
+        <translation>Errores: %L1, advertencias: %L2, notas: %L3.</translation>
     </message>
 </context>
 <context>
@@ -1967,7 +1971,7 @@
     </message>
     <message>
         <source>tag</source>
-        <translation>marca</translation>
+        <translation>número</translation>
     </message>
     <message>
         <source>checked</source>
@@ -2767,7 +2771,7 @@
     </message>
     <message>
         <source>&amp;Sets that variables share</source>
-        <translation>&amp;Conjuntos que comparten variables</translation>
+        <translation>&amp;Conjuntos compartidos por variables</translation>
     </message>
     <message>
         <source>No value labels.</source>
@@ -3254,6 +3258,10 @@
     <message>
         <source>What to show of %1</source>
         <translation>Qué se muestra: %1</translation>
+    </message>
+    <message>
+        <source>Nothing matches the filter.</source>
+        <translation>Nada coincide con el filtro.</translation>
     </message>
 </context>
 <context>
@@ -3899,7 +3907,7 @@
     </message>
     <message>
         <source>Tag</source>
-        <translation>Marca</translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>The value already exists as the alias of a variable.</source>
@@ -4004,7 +4012,7 @@ Keep it as RefCode?</source>
     </message>
     <message>
         <source>Tag</source>
-        <translation>Marca</translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>Si&amp;ze</source>
@@ -4094,7 +4102,7 @@ Keep it as RefCode?</source>
     </message>
     <message>
         <source>Tag</source>
-        <translation>Marca</translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>Type</source>
@@ -4197,7 +4205,7 @@ Keep it as RefCode?</source>
     </message>
     <message>
         <source>Filter variables by name, alias, label, group or tag</source>
-        <translation>Filtrar variables por nombre, alias, etiqueta, grupo o marca</translation>
+        <translation>Filtrar variables por nombre, alias, etiqueta, grupo o número</translation>
     </message>
     <message>
         <source>No variables to show. Add one, or drag fields here from the sources below.</source>
@@ -4294,10 +4302,6 @@ Keep it as RefCode?</source>
         <translation>División</translation>
     </message>
     <message>
-        <source>Tick what tells the records apart when they are split: reference codes, labels and weights are offered here too.</source>
-        <translation>Marque lo que distingue los registros al dividirlos: aquí se ofrecen también códigos de referencia, etiquetas y ponderaciones.</translation>
-    </message>
-    <message>
         <source>Download</source>
         <translation>Descarga</translation>
     </message>
@@ -4322,14 +4326,6 @@ Keep it as RefCode?</source>
         <translation>Fi&amp;ltro</translation>
     </message>
     <message>
-        <source>Select &amp;All Shown</source>
-        <translation>Seleccionar t&amp;odas las mostradas</translation>
-    </message>
-    <message>
-        <source>Select N&amp;one Shown</source>
-        <translation>&amp;Quitar las mostradas</translation>
-    </message>
-    <message>
         <source>No variable matches the filter.</source>
         <translation>Ninguna variable coincide con el filtro.</translation>
     </message>
@@ -4352,6 +4348,18 @@ Keep it as RefCode?</source>
     <message>
         <source>Variables: %L1 of %L2</source>
         <translation>Variables: %L1 de %L2</translation>
+    </message>
+    <message>
+        <source>Tick what tells the records apart when they are split. The ticks are those of the page before; reference codes, labels and weights are offered here too.</source>
+        <translation>Marque lo que distingue los registros al dividirlos. Las marcas son las de la página anterior; aquí se ofrecen también códigos de referencia, etiquetas y ponderaciones.</translation>
+    </message>
+    <message>
+        <source>&amp;Tick Shown</source>
+        <translation>&amp;Marcar las mostradas</translation>
+    </message>
+    <message>
+        <source>&amp;Untick Shown</source>
+        <translation>Desmarcar las m&amp;ostradas</translation>
     </message>
 </context>
 <context>
