@@ -204,7 +204,7 @@ void TestTranslations::titlesEveryColumn_data()
                                            u"Feld"_s, u"Nachschlagetabelle"_s};
     QTest::addRow("Spanish") << u"es"_s
                              << QStringList{u"Código Etiqueta"_s, u"Mínimo Máximo"_s,
-                                            u"Campo Etiqueta Marca"_s, u"Campo"_s, u"Tabla de consulta"_s};
+                                            u"Campo Etiqueta Número"_s, u"Campo"_s, u"Tabla de consulta"_s};
 }
 
 void TestTranslations::titlesEveryColumn()

@@ -5,7 +5,6 @@
 #include "workbench/Actions.h"
 #include "workbench/FileDialogs.h"
 #include "workbench/operations/Areas.h"
-#include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
 #include "workbench/PlainMessage.h"
 #include "workbench/Progress.h"
@@ -24,7 +23,6 @@
 #include <QPushButton>
 #include <QSaveFile>
 #include <QSortFilterProxyModel>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -169,7 +167,7 @@ void AreaSelectionDialog::applyFilter(const QString &text)
 void AreaSelectionDialog::refresh()
 {
     const Areas::Count count = Areas::count(m_root.get());
-    static_cast<EmptyText<QTreeView> *>(m_view)->setEmptyText(
+    m_view->setEmptyText(
         m_root ? tr("No area matches the filter.")
                : tr("Open a CSV file with the columns “code”, “parent” and “name” to select areas of it."));
     m_count->setText(tr("Areas selected: %L1 of %L2").arg(count.selected).arg(count.all));

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "workbench/panels/EmptyText.h"
 #include "workbench/Workspace.h"
 
 #include <QDialog>
+#include <QTreeView>
 
 #include <memory>
 
@@ -11,7 +13,6 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QSortFilterProxyModel;
-class QTreeView;
 class SelectionBuilderTreeModel;
 class SelectionTreeUnit;
 
@@ -52,7 +53,7 @@ private:
     std::unique_ptr<SelectionBuilderTreeModel> m_model;
     AreaTreeProxy *m_tree;
     QSortFilterProxyModel *m_filtered;
-    QTreeView *m_view;
+    EmptyText<QTreeView> *m_view;
     QLineEdit *m_filter;
     QCheckBox *m_codes;
     QCheckBox *m_names;

@@ -9,13 +9,13 @@
 #include "workbench/operations/NewCodes.h"
 #include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
+#include "workbench/PlainMessage.h"
 
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSplitter>
@@ -298,11 +298,10 @@ void LabelSetsDialog::reject()
 {
     Widgets::finishEditing(this);
     if (isChanged()) {
-        QMessageBox box(QMessageBox::Warning, windowTitle(),
-                        tr("Change the labels in all variables that have the set?"),
-                        QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, this);
-        box.setTextFormat(Qt::PlainText);
-        box.setInformativeText(tr("Otherwise what you have edited is lost."));
+        PlainMessage box(QMessageBox::Warning, windowTitle(),
+                         tr("Change the labels in all variables that have the set?"),
+                         tr("Otherwise what you have edited is lost."),
+                         QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, this);
         box.setDefaultButton(QMessageBox::Apply);
         const int answer = box.exec();
         if (answer == QMessageBox::Apply)

@@ -1,13 +1,11 @@
 #include "workbench/dialogs/ReferenceList.h"
 
-#include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
 #include <QMimeData>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -110,8 +108,7 @@ void ReferenceList::setModel(QAbstractItemModel *model, const void *current)
     m_proxy->setSourceModel(model);
     delete m_model;
     m_model = model;
-    static_cast<EmptyText<QListView> *>(m_view)->setEmptyText(
-        m_model->rowCount() > 0 ? tr("Nothing matches the filter.") : m_empty);
+    m_view->setEmptyText(m_model->rowCount() > 0 ? tr("Nothing matches the filter.") : m_empty);
     setCurrent(current);
     // A reset announces no other current item.
     Q_EMIT currentChanged();

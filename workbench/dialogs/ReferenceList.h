@@ -1,7 +1,9 @@
 #pragma once
 
 #include "models/eEntityShowMode.h"
+#include "workbench/panels/EmptyText.h"
 
+#include <QListView>
 #include <QSortFilterProxyModel>
 #include <QWidget>
 
@@ -10,7 +12,6 @@
 class QComboBox;
 class QHBoxLayout;
 class QLineEdit;
-class QListView;
 class QPushButton;
 
 /// Filters an expression list and says what its items are called in an expression.
@@ -75,7 +76,7 @@ private:
     void choose();
 
     ReferenceProxy *m_proxy;
-    QListView *m_view;
+    EmptyText<QListView> *m_view;
     QLineEdit *m_filter;
     QPushButton *m_button;
     QHBoxLayout *m_caption;

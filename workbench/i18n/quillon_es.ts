@@ -3563,7 +3563,7 @@
     </message>
     <message>
         <source>Tag</source>
-        <translation>Marca</translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>Lookup</source>
