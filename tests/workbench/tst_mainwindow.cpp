@@ -36,6 +36,7 @@ private Q_SLOTS:
     void entersWhatIsTypedBeforeAnAction_data();
     void entersWhatIsTypedBeforeAnAction();
     void goesOnInTheTableAfterAnAction();
+    void undoesFromAFormField();
     void namesTheStepInTheMenu();
     void asksBeforeWorkIsLost_data();
     void asksBeforeWorkIsLost();
@@ -152,6 +153,19 @@ void TestMainWindow::goesOnInTheTableAfterAnAction()
     QVERIFY(Places::findVariable(m_window->document()->root(), u"GENDER"_s));
     QVERIFY(!m_window->isWindowModified());
     QCOMPARE(QApplication::focusWidget(), view);
+}
+
+void TestMainWindow::undoesFromAFormField()
+{
+    QVERIFY(m_window->files()->open(sample()));
+    (*m_window->actions())[ActionId::VariableRemove]->trigger();
+    QVERIFY(!Places::findVariable(m_window->document()->root(), u"SEX"_s));
+    auto *field = m_window->findChild<VariableForm *>()->findChild<QLineEdit *>();
+    QTest::mouseClick(field, Qt::LeftButton);
+    QCOMPARE(QApplication::focusWidget(), field);
+    QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(Places::findVariable(m_window->document()->root(), u"SEX"_s));
+    QVERIFY(!m_window->isWindowModified());
 }
 
 void TestMainWindow::namesTheStepInTheMenu()

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void selectsWhatIsClicked();
     void addsAFreeName();
     void removesAndKeepsANeighbourSelected();
+    void removingTheCodeLeavesNone();
     void movesAndUndoes();
     void doesNotMoveWhileSorted();
     void duplicates();
@@ -163,6 +164,21 @@ void TestVariableTablePanel::removesAndKeepsANeighbourSelected()
     QCOMPARE(m_bench->selection.variable()->getName(), u"WAGE"_s);
     m_bench->document.undoStack()->undo();
     QCOMPARE(shown(), QStringList({u"SEX"_s, u"AGE"_s, u"WAGE"_s}));
+}
+
+void TestVariableTablePanel::removingTheCodeLeavesNone()
+{
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    TDcEntity *person = m_bench->selection.entity();
+    person->setRefCode(u"AGE"_s);
+    person->setSelectable(true);
+    m_bench->document.commit();
+    m_bench->actions[ActionId::VariableRemove]->trigger();
+    QCOMPARE(person->getRefCode(), QString());
+    QVERIFY(!person->getSelectable());
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(person->getRefCode(), u"AGE"_s);
+    QVERIFY(person->getSelectable());
 }
 
 void TestVariableTablePanel::movesAndUndoes()
