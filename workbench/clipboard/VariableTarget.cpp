@@ -6,7 +6,10 @@
 #include "workbench/operations/NewNames.h"
 #include "workbench/operations/VariableEdits.h"
 
+#include <QSet>
+
 #include <algorithm>
+#include <utility>
 
 VariableTarget::VariableTarget(TDcEntity *root, TDcEntity *entity, const QList<TDcVariable *> &displayed,
                                const QList<int> &columns)
@@ -100,18 +103,18 @@ QString VariableTarget::store(int row, int column, const QString &text)
 
 void VariableTarget::discard(int row)
 {
-    TDcVariable *variable = std::exchange(m_variables[row], nullptr);
-    m_added.removeOne(variable);
-    m_writer.reset();
-    ListEdits::remove(*m_entity->getVariables(), {variable});
+    m_discarded.append(std::exchange(m_variables[row], nullptr));
 }
 
 void VariableTarget::finish()
 {
     m_writer.reset();
+    const QSet<TDcVariable *> discarded(m_discarded.cbegin(), m_discarded.cend());
+    m_added.removeIf([&discarded](TDcVariable *variable) { return discarded.contains(variable); });
+    ListEdits::remove(*m_entity->getVariables(), std::exchange(m_discarded, {}));
+    auto names = NewNames::forVariables(m_root, m_entity);
     for (TDcVariable *variable : std::as_const(m_added)) {
         if (variable->getName().isEmpty())
-            variable->setName(NewNames::variable(
-                m_root, m_entity, QCoreApplication::translate("VariableTablePanel", "VARIABLE")));
+            variable->setName(names.take(QCoreApplication::translate("VariableTablePanel", "VARIABLE")));
     }
 }

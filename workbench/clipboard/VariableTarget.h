@@ -40,6 +40,7 @@ private:
     QList<TDcVariable *> m_variables; // By row; owned by the entity. Null once discarded.
     QHash<const TDcVariable *, int> m_rows; // The other way round.
     QList<TDcVariable *> m_added;
+    QList<TDcVariable *> m_discarded; // Still the entity's until all cells are stored.
     int m_nextTag;
     QList<VariableProperty> m_properties; // By column.
     int m_displayedColumns;

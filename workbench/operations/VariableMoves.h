@@ -23,7 +23,8 @@ public:
 
     /// What changes beside the place, a sentence each for the person.
     [[nodiscard]] QStringList consequences() const;
-    /// Moves the variables to the end. Roles in the old entity that no variable is left for are nobody's then.
+    /// Moves the variables to the end. Roles in the old entity that no variable is left for are nobody's
+    /// then.
     void apply() const;
 
 private:
