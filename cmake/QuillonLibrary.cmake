@@ -44,6 +44,8 @@ function(quillon_add_test name)
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} quillon_test_support Qt6::Test)
     target_precompile_headers(${name} REUSE_FROM quillon_test_headers)
     target_compile_options(${name} PRIVATE -fpch-preprocess) # Lets the compiler cache see through them.
+    # The linters' compiler cannot read them, and these sources may be the product's.
+    set_source_files_properties(${ARG_SOURCES} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     if(ARG_SOURCE_TREE)
         target_compile_definitions(${name} PRIVATE QUILLON_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     endif()
