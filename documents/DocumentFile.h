@@ -27,7 +27,7 @@ public:
         ReadOnly,
         ChangedByOthers, ///< Needs OverwriteOthersChanges to be saved.
         LosesContent, ///< losses() says what; needs AcceptLosses to be saved.
-        CannotWrite
+        CannotWrite ///< Or could not be read again, because too much is nested in it.
     };
 
     enum SaveOption { OverwriteOthersChanges = 1, AcceptLosses = 2 };

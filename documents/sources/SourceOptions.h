@@ -16,7 +16,7 @@ struct SourceOptions {
     QString encoding;
 
     /// What separates the cells of a text file; an ASCII character. Null: comma, semicolon, tab or bar,
-    /// whichever divides the rows alike.
+    /// whichever divides the rows alike, unless a first line such as "sep=;" says it.
     QChar delimiter;
 
     /// Whether the first row of a text file names its columns. Without it they are called V1, V2 and so on.
