@@ -16,6 +16,7 @@
 #include "workbench/SourceCommands.h"
 #include "workbench/Translations.h"
 
+#include <QDialog>
 #include <QFile>
 #include <QMenu>
 #include <QScrollArea>
@@ -195,16 +196,16 @@ void TestTranslations::reachesEveryLayer()
 void TestTranslations::titlesEveryColumn_data()
 {
     QTest::addColumn<QString>("language");
-    QTest::addColumn<QStringList>("titles"); // Value labels, ranges, dataset, CSV, lookups.
+    QTest::addColumn<QStringList>("titles"); // Value labels, ranges, dataset, CSV, lookups, label sets.
     QTest::addRow("none") << u"C"_s
                           << QStringList{u"Code Label"_s, u"Minimum Maximum"_s, u"Field Label Tag"_s,
-                                         u"Field"_s, u"Lookup"_s};
+                                         u"Field"_s,      u"Lookup"_s,          u"Code Label"_s};
     QTest::addRow("German") << u"de"_s
-                            << QStringList{u"Code Label"_s, u"Minimum Maximum"_s, u"Feld Label Nummer"_s,
-                                           u"Feld"_s, u"Nachschlagetabelle"_s};
-    QTest::addRow("Spanish") << u"es"_s
-                             << QStringList{u"Código Etiqueta"_s, u"Mínimo Máximo"_s,
-                                            u"Campo Etiqueta Número"_s, u"Campo"_s, u"Tabla de consulta"_s};
+                            << QStringList{u"Code Label"_s, u"Minimum Maximum"_s,    u"Feld Label Nummer"_s,
+                                           u"Feld"_s,       u"Nachschlagetabelle"_s, u"Code Label"_s};
+    QTest::addRow("Spanish") << u"es"_s << QStringList{u"Código Etiqueta"_s,       u"Mínimo Máximo"_s,
+                                                       u"Campo Etiqueta Número"_s, u"Campo"_s,
+                                                       u"Tabla de consulta"_s,     u"Código Etiqueta"_s};
 }
 
 void TestTranslations::titlesEveryColumn()
@@ -222,10 +223,12 @@ void TestTranslations::titlesEveryColumn()
     QVERIFY(commands->openDataset(path) && commands->openCsv(path) && commands->openLookups(path));
     const auto *inspector = window.findChild<Inspector *>();
     const auto *sources = window.findChild<SourcesPanel *>();
+    (*window.actions())[ActionId::ValuesLabelSets]->trigger();
+    const auto *sets = window.findChild<QDialog *>(u"labelSetsDialog"_s);
     QStringList titles;
     for (const QTableView *view :
          {inspector->valueLabels()->view(), inspector->ranges()->view(), sources->dataset()->view(),
-          sources->csv()->view(), sources->lookups()->view()}) {
+          sources->csv()->view(), sources->lookups()->view(), sets->findChild<QTableView *>()}) {
         QStringList columns;
         for (int column = 0; column < view->model()->columnCount(); ++column)
             columns.append(view->model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());

@@ -6,14 +6,13 @@
 #include "workbench/Actions.h"
 #include "workbench/Document.h"
 #include "workbench/operations/ListEdits.h"
-#include "workbench/operations/NewCodes.h"
 #include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
-#include "workbench/PlainMessage.h"
+#include "workbench/proxies/TitledColumns.h"
 
 #include <QAction>
 #include <QDialogButtonBox>
-#include <QHeaderView>
+#include <QIdentityProxyModel>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -23,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -37,8 +37,10 @@ void LabelSetsDialog::addTo(const Workspace &workspace)
 }
 
 LabelSetsDialog::LabelSetsDialog(const Workspace &workspace)
-    : QDialog(workspace.window), m_workspace(workspace)
+    : QDialog(workspace.window), m_workspace(workspace),
+      m_titled(new TitledColumns<QIdentityProxyModel>({tr("Code"), tr("Label")}))
 {
+    m_titled->setParent(this);
     setObjectName(u"labelSetsDialog"_s);
     setWindowTitle(tr("Identical Label Sets"));
     resize(820, 520);
@@ -185,7 +187,8 @@ void LabelSetsDialog::showLabels(int current)
     m_view->setModel(nullptr);
     delete m_model;
     m_model = new VarValueLabelDiccionaryModel(this, &m_draft);
-    m_view->setModel(m_model);
+    m_titled->setSourceModel(m_model);
+    m_view->setModel(m_titled);
     m_view->setColumnWidth(0, 90);
     connect(m_model, &QAbstractItemModel::dataChanged, this, &LabelSetsDialog::updateButtons);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -244,70 +247,4 @@ void LabelSetsDialog::updateButtons()
     m_pending->setVisible(changed);
     m_apply->setText(m_set < 0 ? tr("&Change All")
                                : tr("&Change in %L1 Variables").arg(m_sets.at(m_set).members.size()));
-}
-
-void LabelSetsDialog::addLabel()
-{
-    Widgets::finishEditing(this);
-    auto *element = new ValueLabelElement;
-    element->setValue(NewCodes::next(m_draft));
-    m_draft.addValueLabelElement(element);
-    showLabels(int(m_draft.getValueLabelElementList()->size()) - 1);
-    m_view->setFocus();
-    m_view->edit(m_view->currentIndex());
-}
-
-void LabelSetsDialog::removeLabels()
-{
-    Widgets::finishEditing(this);
-    const int row = m_view->currentIndex().row();
-    const QList<ValueLabelElement *> gone = selected();
-    m_view->setModel(nullptr);
-    delete std::exchange(m_model, nullptr);
-    for (const ValueLabelElement *element : gone)
-        m_origins.remove(element);
-    ListEdits::remove(*m_draft.getValueLabelElementList(), gone);
-    showLabels(row);
-}
-
-void LabelSetsDialog::move(bool up)
-{
-    Widgets::finishEditing(this);
-    const QList<ValueLabelElement *> rows = selected();
-    ListEdits::move(*m_draft.getValueLabelElementList(), rows, up);
-    showLabels(int(m_draft.getValueLabelElementList()->indexOf(rows.constFirst())));
-}
-
-void LabelSetsDialog::takeBack()
-{
-    Widgets::finishEditing(this);
-    showSet(m_set);
-}
-
-void LabelSetsDialog::apply()
-{
-    Widgets::finishEditing(this);
-    const LabelSets::Set set = m_sets.at(m_set);
-    LabelSets::change(set, edited());
-    m_workspace.document->commit(tr("value labels of %L1 variables").arg(set.members.size()));
-    // It may stand elsewhere now, be one with another or, without labels, be gone.
-    list(m_set, set.members.constFirst().variable);
-}
-
-void LabelSetsDialog::reject()
-{
-    Widgets::finishEditing(this);
-    if (isChanged()) {
-        PlainMessage box(QMessageBox::Warning, windowTitle(),
-                         tr("Change the labels in all variables that have the set?"),
-                         tr("Otherwise what you have edited is lost."),
-                         QMessageBox::Apply | QMessageBox::Discard | QMessageBox::Cancel, this);
-        box.setDefaultButton(QMessageBox::Apply);
-        const int answer = box.exec();
-        if (answer == QMessageBox::Apply)
-            apply();
-        else if (answer != QMessageBox::Discard)
-            return;
-    }
-    QDialog::reject();
 }

@@ -9,6 +9,7 @@
 #include <QList>
 
 class QAbstractItemModel;
+class QIdentityProxyModel;
 class QLabel;
 class QListWidget;
 class QPlainTextEdit;
@@ -59,6 +60,7 @@ private:
     TDcVariable m_draft; // Holds the labels while they are edited.
     QHash<const ValueLabelElement *, int> m_origins; // Rows of the draft's labels in the set.
     QAbstractItemModel *m_model = nullptr; // Of the draft; owned by the dialog.
+    QIdentityProxyModel *m_titled; // Between it and the view.
     QListWidget *m_list;
     QLabel *m_pending; // Says why the list is off.
     QPlainTextEdit *m_members;

@@ -2838,6 +2838,14 @@
         <source>Otherwise what you have edited is lost.</source>
         <translation>Sonst geht verloren, was Sie bearbeitet haben.</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
 </context>
 <context>
     <name>LookupFile</name>

@@ -2838,6 +2838,14 @@
         <source>Otherwise what you have edited is lost.</source>
         <translation>De lo contrario se pierde lo que ha editado.</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
 </context>
 <context>
     <name>LookupFile</name>
