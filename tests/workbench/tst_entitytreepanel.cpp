@@ -1,6 +1,7 @@
 #include "model/PreOrder.h"
 #include "tests/support/MessageBoxAnswer.h"
 #include "tests/workbench/Bench.h"
+#include "workbench/operations/EntityEdits.h"
 #include "workbench/panels/EntityTreePanel.h"
 
 #include <QAbstractItemModelTester>
@@ -9,7 +10,10 @@
 #include <QTest>
 #include <QTreeView>
 
+#include <algorithm>
+#include <ctime>
 #include <functional>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -36,8 +40,10 @@ private Q_SLOTS:
     void keepsWhatIsCollapsed();
     void showsWhatComesBackBelowALeaf();
     void alwaysHasACurrentIndex();
+    void keepsManyCollapsedInTheTimeThatTheyTake();
 
 private:
+    std::clock_t timeToShow(int collapsed);
     [[nodiscard]] QString tree() const;
     [[nodiscard]] QString current() const { return m_panel->view()->currentIndex().data().toString(); }
     [[nodiscard]] QAction *action(ActionId id) const { return m_bench->actions[id]; }
@@ -303,6 +309,39 @@ void TestEntityTreePanel::alwaysHasACurrentIndex()
     m_bench->document.clear();
     QCOMPARE(current(), u"DICTIONARY"_s);
     QCOMPARE(m_bench->selection.entity(), m_bench->document.root());
+}
+
+/// The processor time in which the panel gets over a change of structure.
+std::clock_t TestEntityTreePanel::timeToShow(int collapsed)
+{
+    m_bench->document.edit(u"filling"_s, [this, collapsed] {
+        qDeleteAll(*m_bench->document.root()->getChildren());
+        m_bench->document.root()->getChildren()->clear();
+        for (int i = 0; i < collapsed; ++i)
+            EntityEdits::add(EntityEdits::add(m_bench->document.root(), u"E%1"_s.arg(i)), u"B%1"_s.arg(i));
+    });
+    QTreeView *view = m_panel->view();
+    view->collapseAll();
+    view->expand(view->model()->index(0, 0));
+    auto shortest = std::numeric_limits<std::clock_t>::max();
+    for (int round = 0; round < 3; ++round) {
+        const std::clock_t start = std::clock();
+        Q_EMIT m_bench->document.structureAboutToChange();
+        Q_EMIT m_bench->document.structureChanged();
+        shortest = std::min(shortest, std::clock() - start);
+    }
+    return shortest;
+}
+
+void TestEntityTreePanel::keepsManyCollapsedInTheTimeThatTheyTake()
+{
+    m_tester.reset(); // It asks for everything over and over.
+    const std::clock_t few = timeToShow(250);
+    const std::clock_t many = timeToShow(2000);
+    const QTreeView *view = m_panel->view();
+    QVERIFY(!view->isExpanded(view->model()->index(1999, 0, view->model()->index(0, 0))));
+    // Eight times as many take eight times as long, and not the square of that.
+    QVERIFY(many < 24 * few);
 }
 
 QTEST_MAIN(TestEntityTreePanel)

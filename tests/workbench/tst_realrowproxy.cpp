@@ -54,7 +54,26 @@ private Q_SLOTS:
     void letsAViewScrollToACollapsedPlace();
     void carriesARecursiveFilter();
     void survivesWithoutASource();
+    void searchesSiblingsOnce();
 };
+
+namespace
+{
+/// Counts how often it is asked for an index.
+class CountingTree : public DictionaryTreeModel
+{
+public:
+    using DictionaryTreeModel::DictionaryTreeModel;
+
+    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override
+    {
+        ++asked;
+        return DictionaryTreeModel::index(row, column, parent);
+    }
+
+    mutable int asked = 0;
+};
+} // namespace
 
 void TestRealRowProxy::givesEachParentItsTrueRow()
 {
@@ -185,6 +204,33 @@ void TestRealRowProxy::survivesWithoutASource()
     const RealRowProxy proxy;
     QCOMPARE(proxy.rowCount(), 0);
     QVERIFY(!proxy.parent(proxy.index(0, 0)).isValid());
+}
+
+void TestRealRowProxy::searchesSiblingsOnce()
+{
+    constexpr int count = 300;
+    QString text = u"ROOT\n"_s;
+    for (int i = 0; i < count; ++i)
+        text += u"    E%1\n        BELOW%1\n"_s.arg(i);
+    const auto root = makeEntities(text);
+    CountingTree model(nullptr, root.get());
+    RealRowProxy proxy;
+    proxy.setSourceModel(&model);
+    const QModelIndex top = proxy.index(0, 0);
+    QList<QModelIndex> below;
+    for (int row = 0; row < count; ++row)
+        below.append(proxy.index(0, 0, proxy.index(row, 0, top)));
+    model.asked = 0;
+    for (int row = 0; row < count; ++row)
+        QCOMPARE(proxy.parent(below.at(row)).row(), row);
+    QVERIFY(model.asked <= 3 * count);
+
+    // What is remembered is not believed when the tree has changed unseen.
+    root->getChildren()->swapItemsAt(0, count - 1);
+    QCOMPARE(proxy.parent(below.first()).row(), count - 1);
+    QCOMPARE(proxy.parent(below.last()).row(), 0);
+    const auto gone = std::unique_ptr<TDcEntity>(root->getChildren()->takeFirst());
+    QCOMPARE(proxy.parent(below.first()).row(), count - 2);
 }
 
 QTEST_MAIN(TestRealRowProxy)

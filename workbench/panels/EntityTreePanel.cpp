@@ -71,15 +71,11 @@ TDcEntity *EntityTreePanel::entityAt(const QModelIndex &index) const
 void EntityTreePanel::forgetTree()
 {
     m_collapsed.clear();
-    QList<QModelIndex> pending{QModelIndex()};
-    while (!pending.isEmpty()) {
-        const QModelIndex node = pending.takeLast();
+    m_proxy->visit([this](const QModelIndex &node) {
         // A leaf is never expanded, and may have children when the tree is back.
-        if (node.isValid() && m_proxy->hasChildren(node) && !m_view->isExpanded(node))
+        if (m_proxy->hasChildren(node) && !m_view->isExpanded(node))
             m_collapsed.insert(node.internalPointer());
-        for (int row = 0; row < m_proxy->rowCount(node); ++row)
-            pending.append(m_proxy->index(row, 0, node));
-    }
+    });
     m_proxy->setSourceModel(nullptr);
     delete m_model;
     m_model = nullptr;
@@ -90,10 +86,10 @@ void EntityTreePanel::showTree()
     m_model = new DictionaryTreeModel(this, m_workspace.document->root());
     m_proxy->setSourceModel(m_model);
     m_view->expandAll();
-    for (const void *entity : std::as_const(m_collapsed)) {
-        if (const QModelIndex index = m_proxy->indexOf(entity); index.isValid())
-            m_view->collapse(index);
-    }
+    m_proxy->visit([this](const QModelIndex &node) {
+        if (m_collapsed.contains(node.internalPointer()))
+            m_view->collapse(node);
+    });
     showCurrent(m_workspace.selection->entity());
 }
 

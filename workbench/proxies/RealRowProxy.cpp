@@ -2,6 +2,12 @@
 
 #include <QList>
 
+void RealRowProxy::setSourceModel(QAbstractItemModel *model)
+{
+    m_rows.clear();
+    QIdentityProxyModel::setSourceModel(model);
+}
+
 QModelIndex RealRowProxy::parent(const QModelIndex &child) const
 {
     if (!child.isValid() || !sourceModel())
@@ -10,25 +16,43 @@ QModelIndex RealRowProxy::parent(const QModelIndex &child) const
     const QModelIndex found = sourceModel()->parent(mapToSource(child));
     if (!found.isValid())
         return {};
+    const void *object = found.internalPointer();
     const QModelIndex above = sourceModel()->parent(found);
     const int siblings = sourceModel()->rowCount(above);
-    for (int row = 0; row < siblings; ++row) {
-        const QModelIndex candidate = sourceModel()->index(row, 0, above);
-        if (candidate.internalPointer() == found.internalPointer())
-            return mapFromSource(candidate);
+    // The tree may have changed unseen; so what is remembered counts only where it still holds.
+    if (const int row = m_rows.value(object, siblings); row < siblings) {
+        if (const QModelIndex known = sourceModel()->index(row, 0, above); known.internalPointer() == object)
+            return mapFromSource(known);
     }
-    return {};
+    // One search serves all siblings.
+    QModelIndex real;
+    for (int row = siblings - 1; row >= 0; --row) {
+        const QModelIndex candidate = sourceModel()->index(row, 0, above);
+        m_rows.insert(candidate.internalPointer(), row);
+        if (candidate.internalPointer() == object)
+            real = candidate;
+    }
+    return mapFromSource(real);
+}
+
+void RealRowProxy::visit(const std::function<void(const QModelIndex &)> &visitor) const
+{
+    QList<QModelIndex> pending{QModelIndex()};
+    while (!pending.isEmpty()) {
+        const QModelIndex node = pending.takeLast();
+        if (node.isValid())
+            visitor(node);
+        for (int row = rowCount(node) - 1; row >= 0; --row)
+            pending.append(index(row, 0, node));
+    }
 }
 
 QModelIndex RealRowProxy::indexOf(const void *object) const
 {
-    QList<QModelIndex> pending{QModelIndex()};
-    while (object && !pending.isEmpty()) {
-        const QModelIndex node = pending.takeLast();
-        if (node.isValid() && node.internalPointer() == object)
-            return node;
-        for (int row = rowCount(node) - 1; row >= 0; --row)
-            pending.append(index(row, 0, node));
-    }
-    return {};
+    QModelIndex found;
+    visit([&found, object](const QModelIndex &node) {
+        if (object && !found.isValid() && node.internalPointer() == object)
+            found = node;
+    });
+    return found;
 }

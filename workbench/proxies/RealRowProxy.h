@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QHash>
 #include <QIdentityProxyModel>
+
+#include <functional>
 
 /// Stands between a tree model of the layer and everything else, and gives each parent its true row.
 ///
@@ -8,7 +11,7 @@
 /// another index. Above this proxy, views, persistent indexes and sorting proxies work as usual.
 ///
 /// The tree models do not observe the objects that they show. Whoever adds, removes or moves some of them
-/// shows the tree anew.
+/// takes the source model away meanwhile.
 class RealRowProxy : public QIdentityProxyModel
 {
     Q_OBJECT
@@ -16,8 +19,14 @@ class RealRowProxy : public QIdentityProxyModel
 public:
     using QIdentityProxyModel::QIdentityProxyModel;
 
+    void setSourceModel(QAbstractItemModel *model) override;
     [[nodiscard]] QModelIndex parent(const QModelIndex &child) const override;
 
     /// The index that shows \a object; invalid when the tree does not hold it. A search.
     [[nodiscard]] QModelIndex indexOf(const void *object) const;
+    /// Calls \a visitor with each node, in pre-order.
+    void visit(const std::function<void(const QModelIndex &)> &visitor) const;
+
+private:
+    mutable QHash<const void *, int> m_rows; // Where objects were seen last; compared, never followed.
 };
