@@ -44,11 +44,15 @@ std::unique_ptr<DictionaryFile> DictionaryFile::withRoot(std::unique_ptr<TDcEnti
     return file;
 }
 
-bool DictionaryFile::load(const QByteArray &bytes)
+bool DictionaryFile::load(const QByteArray &bytes, const std::stop_token &stop)
 {
+    if (stopped(stop))
+        return false;
     const JsonText::Content text = JsonText::read(bytes);
     if (!text.value.isValid())
         return fail(Error::Malformed, text.problem);
+    if (stopped(stop))
+        return false;
 
     Frame frame{.key = {}, .form = Form::Single, .others = {}, .style = text.style};
     QVariant roots = text.value;
@@ -74,7 +78,11 @@ bool DictionaryFile::load(const QByteArray &bytes)
         return fail(Error::SeveralRoots,
                     tr("There are %1 root entities instead of one.").arg(entities.get()->size()));
 
+    if (stopped(stop))
+        return false;
     forEach(*entities.get(), roots, DictionaryDocument::remember);
+    if (stopped(stop))
+        return false;
     m_root.reset(entities.get()->takeFirst());
     *m_frame = std::move(frame);
     return true;

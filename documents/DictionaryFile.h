@@ -42,7 +42,7 @@ public:
     [[nodiscard]] QByteArray content() const override;
 
 protected:
-    bool load(const QByteArray &bytes) override;
+    bool load(const QByteArray &bytes, const std::stop_token &stop) override;
 
 private:
     struct Frame;

@@ -37,6 +37,13 @@ bool DocumentFile::fail(Error error, const QString &text)
     return false;
 }
 
+bool DocumentFile::stopped(const std::stop_token &stop)
+{
+    if (stop.stop_requested())
+        fail(Error::None, {});
+    return stop.stop_requested();
+}
+
 void DocumentFile::remember(const QString &path, const QByteArray &bytes)
 {
     m_path = path;
@@ -45,15 +52,18 @@ void DocumentFile::remember(const QString &path, const QByteArray &bytes)
     m_errorText.clear();
 }
 
-bool DocumentFile::open(const QString &path)
+bool DocumentFile::open(const QString &path, const std::stop_token &stop)
 {
+    if (stopped(stop))
+        return false;
     QString problem;
     const QByteArray bytes = InputFile::read(path, &problem);
     if (bytes.isNull())
         return fail(Error::CannotRead,
                     tr("%1 cannot be read: %2").arg(QDir::toNativeSeparators(path), problem));
-    if (!load(bytes)) {
-        m_errorText.prepend(QDir::toNativeSeparators(path) + u": "_s); // load() said what, not where.
+    if (!load(bytes, stop)) {
+        if (m_error != Error::None)
+            m_errorText.prepend(QDir::toNativeSeparators(path) + u": "_s); // load() said what, not where.
         return false;
     }
     m_losses = lossesOf(bytes);
@@ -66,9 +76,9 @@ QStringList DocumentFile::lossesOf(const QByteArray &bytes)
     return JsonLosses::of(bytes);
 }
 
-bool DocumentFile::restore(const Unsaved &unsaved)
+bool DocumentFile::restore(const Unsaved &unsaved, const std::stop_token &stop)
 {
-    if (!load(unsaved.content))
+    if (!load(unsaved.content, stop))
         return false;
     m_path = unsaved.path;
     m_digest = unsaved.digest;

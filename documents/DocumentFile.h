@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <stop_token>
+
 /// A document in a file: what opening and saving have in common, whatever the document holds.
 ///
 /// Opening and saving again without an edit gives an equal document; an edit changes what it edits and
@@ -38,8 +40,8 @@ public:
     Q_DISABLE_COPY_MOVE(DocumentFile)
 
     /// Reads the file at \a path. False when that fails: then error() and errorText() say why, and all else
-    /// stays as it was.
-    [[nodiscard]] bool open(const QString &path);
+    /// stays as it was. The same, without an error, when \a stop is requested while there is much left to do.
+    [[nodiscard]] bool open(const QString &path, const std::stop_token &stop = {});
 
     /// What a document needs to go on where it was, though it was not saved.
     struct Unsaved {
@@ -50,8 +52,9 @@ public:
     };
     [[nodiscard]] Unsaved unsaved() const { return {content(), m_path, m_digest, m_losses}; }
     /// Goes on where \a unsaved was: belongs to its file, which may be gone or changed by others meanwhile,
-    /// and has its content. False when that cannot be read; then all stays as it was.
-    [[nodiscard]] bool restore(const Unsaved &unsaved);
+    /// and has its content. False when that cannot be read or \a stop is requested, as for open(); then all
+    /// stays as it was.
+    [[nodiscard]] bool restore(const Unsaved &unsaved, const std::stop_token &stop = {});
 
     /// Overwrites the file that was opened or saved last. False when that fails or must not be done without
     /// being told to; then the file is as it was.
@@ -87,8 +90,9 @@ public:
     [[nodiscard]] QString errorText() const { return m_errorText; }
 
 protected:
-    /// Takes the content of a file over, or fails and changes nothing.
-    virtual bool load(const QByteArray &bytes) = 0;
+    /// Takes the content of a file over, or fails and changes nothing. Where \a stop is asked for, that is
+    /// stopped().
+    virtual bool load(const QByteArray &bytes, const std::stop_token &stop) = 0;
     /// The content to be saved.
     [[nodiscard]] virtual QByteArray content() const = 0;
     /// Whether nobody but the file's owner may read what is saved.
@@ -99,6 +103,8 @@ protected:
 
     /// Notes why an operation fails. False, for the caller to return.
     bool fail(Error error, const QString &text);
+    /// Whether \a stop is requested; then an operation ends without an error.
+    bool stopped(const std::stop_token &stop);
 
 private:
     bool overwrite(const QString &path);

@@ -18,13 +18,17 @@ void RunConfigurationFile::setConfig(std::unique_ptr<Config> config)
     m_config = std::move(config);
 }
 
-bool RunConfigurationFile::load(const QByteArray &bytes)
+bool RunConfigurationFile::load(const QByteArray &bytes, const std::stop_token &stop)
 {
+    if (stopped(stop))
+        return false;
     const JsonText::Content text = JsonText::read(bytes);
     if (!text.value.isValid())
         return fail(Error::Malformed, text.problem);
     if (text.value.typeId() != QMetaType::QVariantMap)
         return fail(Error::NoRoot, tr("There is no run configuration."));
+    if (stopped(stop))
+        return false;
     const QVariantMap map = text.value.toMap();
     if (DictionaryShape::isNoRunConfiguration(map))
         return fail(Error::NoRoot, tr("This is a dictionary, not a run configuration."));

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] QByteArray content() const override;
 
 protected:
-    bool load(const QByteArray &bytes) override;
+    bool load(const QByteArray &bytes, const std::stop_token &stop) override;
     [[nodiscard]] bool isSecret() const override;
 
 private:

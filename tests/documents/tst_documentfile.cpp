@@ -1,4 +1,5 @@
 #include "documents/DictionaryFile.h"
+#include "documents/RunConfigurationFile.h"
 #include "model/TDcEntity.h"
 #include "tests/documents/Files.h"
 #include "tests/documents/RandomDictionary.h"
@@ -82,6 +83,29 @@ private Q_SLOTS:
         QFETCH(QString, problem);
         QCOMPARE(dictionary.errorText(), path + u" cannot be read: "_s + problem);
         QVERIFY(DocumentFile::digestOf(path).isEmpty());
+    }
+
+    void whatIsToldToStopChangesNothing()
+    {
+        const TemporaryFile file(smallDictionary);
+        std::stop_source stop;
+        DictionaryFile dictionary;
+        QVERIFY(!dictionary.open(u"/missing"_s, stop.get_token()));
+        QVERIFY(stop.request_stop());
+        const TDcEntity *root = dictionary.root();
+        QVERIFY(!dictionary.open(file.path(), stop.get_token()));
+        QCOMPARE(dictionary.error(), DocumentFile::Error::None);
+        QCOMPARE(dictionary.errorText(), QString());
+        const DocumentFile::Unsaved unsaved{smallDictionary, file.path(), {}, {}};
+        QVERIFY(!dictionary.restore(unsaved, stop.get_token()));
+        QCOMPARE(dictionary.error(), DocumentFile::Error::None);
+        QCOMPARE(dictionary.root(), root);
+        QCOMPARE(dictionary.path(), QString());
+        RunConfigurationFile configuration;
+        const Config *config = configuration.config();
+        QVERIFY(!configuration.open(file.path(), stop.get_token()));
+        QCOMPARE(configuration.config(), config);
+        QVERIFY(dictionary.open(file.path()));
     }
 
     void aFileChangedByOthersIsNotOverwrittenUnasked()
