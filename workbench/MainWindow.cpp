@@ -257,7 +257,10 @@ void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 void MainWindow::dropEvent(QDropEvent *event)
 {
     event->acceptProposedAction();
-    open(event->mimeData()->urls().constFirst().toLocalFile());
+    // Later: opening may ask questions, and the program that the file comes from waits for an answer to this.
+    const QString path = event->mimeData()->urls().constFirst().toLocalFile();
+    QMetaObject::invokeMethod(
+        this, [this, path] { open(path); }, Qt::QueuedConnection);
 }
 
 void MainWindow::open(const QString &path)

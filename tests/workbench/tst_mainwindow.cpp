@@ -215,8 +215,14 @@ void TestMainWindow::opensADroppedFile()
     QApplication::sendEvent(m_window.get(), &enter);
     QVERIFY(enter.isAccepted());
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    const MessageBoxAnswer box({u"Discard"_s});
+    m_window->document()->root()->setLabel(u"Changed"_s);
+    m_window->document()->commit();
     QApplication::sendEvent(m_window.get(), &drop);
-    QCOMPARE(m_window->windowTitle(), u"census.mvdb[*] – Quillon Workbench"_s);
+    // Nobody is asked anything while the program that the file comes from waits.
+    QVERIFY(box.shown().isEmpty());
+    QTRY_COMPARE(m_window->windowTitle(), u"census.mvdb[*] – Quillon Workbench"_s);
+    QCOMPARE(box.shown().size(), 1);
 }
 
 void TestMainWindow::remembersFilesAndLayout()
