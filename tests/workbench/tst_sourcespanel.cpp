@@ -1,6 +1,7 @@
 #include "tests/support/Payloads.h"
 #include "tests/workbench/Bench.h"
 #include "tests/workbench/IsolatedSettings.h"
+#include "workbench/panels/EmptyText.h"
 #include "workbench/panels/SourcesPanel.h"
 #include "workbench/panels/SourceTab.h"
 
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void filtersWithoutCase();
     void filtersTextAsItStands();
     void keepsARowSelectedWhileFiltering();
+    void saysWhyItIsEmpty();
     void handsOverTheSelectedRows();
     void appendsByActionAndByKey();
     void appendsFromTheTabInSight();
@@ -205,6 +207,20 @@ void TestSourcesPanel::keepsARowSelectedWhileFiltering()
     QCOMPARE(payload(m_panel->csv()), QStringList());
     filter(m_panel->csv())->clear();
     QVERIFY(append()->isEnabled());
+}
+
+void TestSourcesPanel::saysWhyItIsEmpty()
+{
+    const auto *view = static_cast<const EmptyText<QTableView> *>(m_panel->csv()->view());
+    const QString open = u"Open a file to list its fields here, then drag them onto the variables."_s;
+    QCOMPARE(view->emptyText(), open);
+    filter(m_panel->csv())->setText(u"nothing"_s);
+    QCOMPARE(view->emptyText(), open);
+    m_panel->setCsvFields(fields({u"AGE"_s}));
+    QCOMPARE(shown(m_panel->csv()), QStringList());
+    QCOMPARE(view->emptyText(), u"Nothing matches the filter."_s);
+    m_panel->setCsvFields(fields({}));
+    QCOMPARE(view->emptyText(), open);
 }
 
 void TestSourcesPanel::handsOverTheSelectedRows()

@@ -18,11 +18,10 @@ using namespace Qt::Literals::StringLiterals;
 
 SourceTab::SourceTab(const QString &name, const QString &title, QSortFilterProxyModel *proxy,
                      const QList<QAction *> &actions, QWidget *parent)
-    : QWidget(parent), m_bar(new QHBoxLayout), m_proxy(proxy), m_notesButton(new QToolButton(this))
+    : QWidget(parent), m_bar(new QHBoxLayout), m_view(new EmptyText<QTableView>(this)), m_proxy(proxy),
+      m_notesButton(new QToolButton(this))
 {
-    auto *table = new EmptyText<QTableView>(this);
-    table->setEmptyText(tr("Open a file to list its fields here, then drag them onto the variables."));
-    m_view = table;
+    updateEmptyText();
     m_columns = std::make_unique<ColumnMemory>(m_view, name);
     m_proxy->setParent(this);
     m_view->setModel(m_proxy);
@@ -73,6 +72,7 @@ void SourceTab::setModel(QAbstractItemModel *model)
     m_proxy->setSourceModel(model);
     delete m_model;
     m_model = model;
+    updateEmptyText();
     if (!model)
         return;
     model->setParent(this);
@@ -90,6 +90,19 @@ void SourceTab::setNotes(const QList<SourceProblem> &notes)
     m_notes = notes;
     m_notesButton->setText(tr("Notes (%L1)…").arg(notes.size()));
     m_notesButton->setVisible(!notes.isEmpty());
+}
+
+void SourceTab::updateEmptyText()
+{
+    // Of rows that are there the filter alone can leave none.
+    m_view->setEmptyText(m_model && m_model->rowCount() > 0
+                             ? tr("Nothing matches the filter.")
+                             : tr("Open a file to list its fields here, then drag them onto the variables."));
+}
+
+QTableView *SourceTab::view() const
+{
+    return m_view;
 }
 
 void SourceTab::addControl(QWidget *control)

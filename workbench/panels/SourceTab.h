@@ -15,6 +15,9 @@ class QSortFilterProxyModel;
 class QTableView;
 class QToolButton;
 
+template <typename View>
+class EmptyText;
+
 /// One tab of the sources: a list to filter, whose rows are dragged onto the variable table.
 class SourceTab : public QWidget
 {
@@ -26,7 +29,7 @@ public:
     SourceTab(const QString &name, const QString &title, QSortFilterProxyModel *proxy,
               const QList<QAction *> &actions, QWidget *parent = nullptr);
 
-    [[nodiscard]] QTableView *view() const { return m_view; }
+    [[nodiscard]] QTableView *view() const;
     /// Shows \a model, which the tab takes over, instead of the one before.
     void setModel(QAbstractItemModel *model);
     /// Offers to show what was read, but not as the file has it. Without \a notes nothing is offered.
@@ -42,8 +45,10 @@ Q_SIGNALS:
     void activated();
 
 private:
+    void updateEmptyText();
+
     QBoxLayout *m_bar;
-    QTableView *m_view;
+    EmptyText<QTableView> *m_view;
     std::unique_ptr<ColumnMemory> m_columns;
     QSortFilterProxyModel *m_proxy;
     QAbstractItemModel *m_model = nullptr; // Owned by the tab.
