@@ -30,7 +30,12 @@ std::unique_ptr<DictionaryFile> Document::newFile() const
 
 QString Document::title() const
 {
-    return path().isEmpty() ? tr("New dictionary") : QFileInfo(path()).fileName();
+    return titleOf(path());
+}
+
+QString Document::titleOf(const QString &path)
+{
+    return path.isEmpty() ? tr("New dictionary") : QFileInfo(path).fileName();
 }
 
 void Document::clear()
@@ -40,18 +45,35 @@ void Document::clear()
 
 bool Document::open(const QString &path, Access access)
 {
-    // Whoever cancels leaves it to be read in vain; so nothing else knows of it.
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    return read(tr("Opening “%1”…").arg(titleOf(path)), access,
+                [absolute](DictionaryFile &file, const auto &stop) { return file.open(absolute, stop); });
+}
+
+bool Document::restore(const DocumentFile::Unsaved &unsaved, Access access)
+{
+    const bool done =
+        read(tr("Recovering “%1”…").arg(titleOf(unsaved.path)), access,
+             [unsaved](DictionaryFile &file, const auto &stop) { return file.restore(unsaved, stop); });
+    if (done)
+        m_undoStack.resetClean();
+    return done;
+}
+
+bool Document::read(const QString &text, Access access, const Read &read)
+{
+    // Whoever cancels leaves it to be read in vain for a while; so nothing else knows of it.
     struct Reading {
         std::unique_ptr<DictionaryFile> file = std::make_unique<DictionaryFile>();
         bool done = false;
     };
     const auto reading = std::make_shared<Reading>();
-    const QFileInfo info(path);
-    const bool waited =
-        m_wait(tr("Opening “%1”…").arg(info.fileName()), true, [reading, absolute = info.absoluteFilePath()] {
-            reading->done = reading->file->open(absolute);
-        });
+    std::stop_source stop;
+    const bool waited = m_wait(text, true, [reading, read, token = stop.get_token()] {
+        reading->done = read(*reading->file, token);
+    });
     if (!waited) {
+        stop.request_stop();
         m_error = DocumentFile::Error::None;
         m_errorText.clear();
         return false;
@@ -59,16 +81,6 @@ bool Document::open(const QString &path, Access access)
     if (!succeed(reading->done, *reading->file))
         return false;
     start(std::move(reading->file), access);
-    return true;
-}
-
-bool Document::restore(const DocumentFile::Unsaved &unsaved)
-{
-    auto file = std::make_unique<DictionaryFile>();
-    if (!succeed(file->restore(unsaved), *file))
-        return false;
-    start(std::move(file), Access::ReadWrite);
-    m_undoStack.resetClean();
     return true;
 }
 
@@ -133,10 +145,12 @@ void Document::announce(History::Extent extent, const std::function<void(TDcEnti
         Q_EMIT contentChanged();
 }
 
-void Document::commit(const QString &text, TDcEntity *entity)
+bool Document::commit(const QString &text, TDcEntity *entity)
 {
-    if (!m_changing && m_history.record(*root(), text, entity))
-        Q_EMIT contentChanged();
+    if (m_changing || !m_history.record(*root(), text, entity))
+        return false;
+    Q_EMIT contentChanged();
+    return true;
 }
 
 void Document::edit(const QString &text, const std::function<void()> &change)

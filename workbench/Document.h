@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <stop_token>
 
 class TDcEntity;
 
@@ -52,8 +53,9 @@ public:
     /// Replaces the dictionary by the one in the file at \a path. If that fails or is cancelled, nothing
     /// changes, and errorText() says why; it is empty when it was cancelled.
     [[nodiscard]] bool open(const QString &path, Access access = Access::ReadWrite);
-    /// Replaces the dictionary by changes that were never saved. If that fails, nothing changes.
-    [[nodiscard]] bool restore(const DocumentFile::Unsaved &unsaved);
+    /// Replaces the dictionary by changes that were never saved. If that fails or is cancelled, the same
+    /// holds as for open().
+    [[nodiscard]] bool restore(const DocumentFile::Unsaved &unsaved, Access access = Access::ReadWrite);
     /// A copy of the dictionary as it was after the last step, with its file. Nobody else looks at it.
     [[nodiscard]] std::unique_ptr<DictionaryFile> snapshot() const;
     /// Saves to \a path, which the dictionary then belongs to. The history stays.
@@ -71,8 +73,8 @@ public:
     /// Makes one step of all that was changed since the last one, if anything was. \a text completes "Undo"
     /// in the menu; when it is empty, the step is described by what changed. If only properties, variables,
     /// ranges or value labels of one entity changed, \a entity spares the search through the others. The
-    /// selectable marks of those below it may have changed with them.
-    void commit(const QString &text = {}, TDcEntity *entity = nullptr);
+    /// selectable marks of those below it may have changed with them. False if nothing changed.
+    bool commit(const QString &text = {}, TDcEntity *entity = nullptr);
     /// Runs \a change, which may add, remove and move objects, and makes one step of it.
     void edit(const QString &text, const std::function<void()> &change);
 
@@ -86,7 +88,13 @@ Q_SIGNALS:
     void pathChanged(const QString &path);
 
 private:
+    /// Fills \a file, or stops without an error when that is requested.
+    using Read = std::function<bool(DictionaryFile &file, const std::stop_token &stop)>;
+
+    [[nodiscard]] static QString titleOf(const QString &path);
     [[nodiscard]] std::unique_ptr<DictionaryFile> newFile() const;
+    /// Starts what \a read reads; \a text says what it is.
+    bool read(const QString &text, Access access, const Read &read);
     void announce(History::Extent extent, const std::function<void(TDcEntity &root)> &change);
     void start(std::unique_ptr<DictionaryFile> file, Access access);
     bool succeed(bool done, const DictionaryFile &file);

@@ -19,6 +19,8 @@ public:
 
     /// Whether the open dictionary may go: nothing is unsaved, or the person saved it or said so.
     [[nodiscard]] bool mayClose();
+    /// How to open the file at \a path: another instance may have it open. Nothing when the person cancels.
+    [[nodiscard]] std::optional<Document::Access> chooseAccess(const QString &path);
     enum class Opening { Done, Failed, Cancelled };
     /// Opens \a path after mayClose(), and shows what is wrong if it cannot be opened.
     Opening tryOpen(const QString &path);
@@ -38,8 +40,6 @@ private:
     bool saveAs();
     bool saveTo(const QString &path);
     void followPath();
-    /// How to open the file at \a path: another instance may have it open. Nothing when the person cancels.
-    [[nodiscard]] std::optional<Document::Access> chooseAccess(const QString &path);
     [[nodiscard]] bool mayOverwrite(const QString &path);
     void revert();
     void addRecentMenu();

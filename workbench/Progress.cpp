@@ -5,9 +5,12 @@
 #include <QFutureWatcher>
 #include <QSemaphore>
 #include <QtConcurrent>
+#include <QThreadPool>
 
 #include <algorithm>
+#include <limits>
 #include <memory>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,6 +18,20 @@ namespace
 {
 constexpr int patience = 700; // Milliseconds; people notice a second.
 constexpr int steps = 1000;
+
+/// Threads for what somebody waits for, one more whenever it is needed: what was given up goes on in vain for
+/// a while, and nobody shall wait behind it. That holds for the journal too, which uses the program's own.
+QThreadPool *threads()
+{
+    static QThreadPool *pool = nullptr;
+    if (!pool) {
+        pool = new QThreadPool;
+        pool->setMaxThreadCount(std::numeric_limits<int>::max());
+        // While the program still has what the threads may be using.
+        qAddPostRoutine([] { delete std::exchange(pool, nullptr); });
+    }
+    return pool;
+}
 
 QString cancelText()
 {
@@ -40,7 +57,7 @@ bool Progress::run(const QString &text, QWidget *window, Cancel cancel, const st
 {
     const bool possible = cancel == Cancel::Possible;
     auto done = std::make_shared<QSemaphore>();
-    QFuture<void> future = QtConcurrent::run([work, done] {
+    QFuture<void> future = QtConcurrent::run(threads(), [work, done] {
         work();
         done->release();
     });

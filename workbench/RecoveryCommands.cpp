@@ -36,11 +36,14 @@ void RecoveryCommands::offer()
     dialog->open();
 }
 
-void RecoveryCommands::recover(const QString &journalPath)
+void RecoveryCommands::recover(const QString &journalPath, const QString &path)
 {
     if (!m_files->mayClose())
         return;
-    const QString problem = Recovery::recover(journalPath, m_workspace.document, m_journal);
+    const auto access = m_files->chooseAccess(path);
+    if (!access)
+        return;
+    const QString problem = Recovery::recover(journalPath, m_workspace.document, m_journal, *access);
     if (problem.isEmpty())
         return;
     PlainMessage(QMessageBox::Critical, tr("Quillon Workbench"), tr("The changes cannot be recovered."),

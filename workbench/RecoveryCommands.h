@@ -21,7 +21,7 @@ public:
     void offer();
 
 private:
-    void recover(const QString &journalPath);
+    void recover(const QString &journalPath, const QString &path);
     void updateActions();
 
     Workspace m_workspace;

@@ -30,17 +30,18 @@ SessionEnd::SessionEnd(FileCommands *files, Journal *journal, QObject *parent)
 
 bool SessionEnd::prepare(bool mayAsk)
 {
-    if (mayAsk && m_files->mayClose()) {
-        // Saved or given up.
-        m_journal->discard();
+    const bool agreed = mayAsk && m_files->mayClose();
+    // What is not saved now was given up, but only if the session does end: another program may still object.
+    m_journal->setGivenUp(agreed);
+    if (agreed)
         return true;
-    }
     m_journal->writeNow();
     return !mayAsk;
 }
 
 void SessionEnd::terminate()
 {
+    m_journal->setGivenUp(false); // Whoever agreed to something did not agree to this.
     m_journal->writeNow();
     QCoreApplication::exit();
 }

@@ -2,6 +2,7 @@
 #include "documents/DictionaryEquality.h"
 #include "model/ValueLabelElement.h"
 #include "tests/support/Trees.h"
+#include "tests/workbench/BytesRead.h"
 #include "workbench/Document.h"
 
 #include <QFile>
@@ -24,6 +25,8 @@ private Q_SLOTS:
     void savesAndOpens();
     void keepsTheHistoryWhenSaving();
     void staysAsItIsWhenOpeningFails();
+    void isUnmodifiedAfterWhatWasRestored();
+    void stopsReadingWhatIsCancelled();
 };
 
 void TestDocument::startsWithAnEmptyDictionary()
@@ -139,6 +142,46 @@ void TestDocument::staysAsItIsWhenOpeningFails()
     QVERIFY(!document.open(folder.filePath(u"missing.mvdb"_s)));
     QCOMPARE(document.root(), root);
     QVERIFY(document.isModified());
+}
+
+void TestDocument::isUnmodifiedAfterWhatWasRestored()
+{
+    const QTemporaryDir folder;
+    Document saved;
+    QVERIFY(saved.save(folder.filePath(u"census.mvdb"_s)));
+    Document document;
+    for (const bool opens : {false, true}) {
+        QVERIFY(document.restore(saved.snapshot()->unsaved()));
+        QVERIFY(document.isModified());
+        QSignalSpy modified(&document, &Document::modifiedChanged);
+        if (opens)
+            QVERIFY(document.open(saved.path()));
+        else
+            document.clear();
+        QVERIFY(!document.isModified());
+        QCOMPARE(modified.size(), 1);
+        QCOMPARE(modified.first().first().toBool(), false);
+    }
+}
+
+void TestDocument::stopsReadingWhatIsCancelled()
+{
+    constexpr int size = 8 << 20;
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"large.mvdb"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(QByteArray(size, ' ')), size);
+    file.close();
+    Document document;
+    std::function<void()> later;
+    document.setWait([&later](const QString &, bool, const std::function<void()> &work) {
+        later = work;
+        return false;
+    });
+    QVERIFY(!document.open(file.fileName()));
+    const qint64 before = bytesRead();
+    later();
+    QVERIFY(bytesRead() - before < size);
 }
 
 QTEST_MAIN(TestDocument)

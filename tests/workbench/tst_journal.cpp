@@ -1,5 +1,6 @@
 #include "documents/DictionaryEquality.h"
 #include "tests/support/Trees.h"
+#include "tests/workbench/BytesRead.h"
 #include "workbench/Document.h"
 #include "workbench/journal/FileClaim.h"
 #include "workbench/journal/Journal.h"
@@ -37,6 +38,10 @@ private Q_SLOTS:
     void holdsOnlyWholeSteps();
     void keepsWhatTheFileKeeps();
     void recoveredChangesAreUnsaved();
+    void goesWithTheDictionaryThatWasRecovered();
+    void readsTheirFileOnceHoweverManyThereAre();
+    void recoveringMayBeCancelled();
+    void staysUntilTheEndWhenGivenUp();
     void goesOnWithTheSameJournal();
     void tellsWhatBecameOfTheFile_data();
     void tellsWhatBecameOfTheFile();
@@ -279,6 +284,80 @@ void TestJournal::recoveredChangesAreUnsaved()
     QVERIFY(document.save(path));
     QVERIFY(!document.isModified());
     QVERIFY(files().isEmpty());
+}
+
+void TestJournal::goesWithTheDictionaryThatWasRecovered()
+{
+    leaveBehind(sample(), u"one"_s);
+    Document document;
+    Journal journal(&document, journals(), quick);
+    QCOMPARE(Recovery::recover(Recovery::find(journals()).constFirst().journal, &document, &journal),
+             QString());
+    QCOMPARE(files().size(), 1);
+    QVERIFY(document.open(sample()));
+    QVERIFY(files().isEmpty());
+}
+
+void TestJournal::readsTheirFileOnceHoweverManyThereAre()
+{
+    constexpr int size = 4 << 20;
+    const QString path = sample();
+    leaveBehind(path, u"one"_s);
+    leaveBehind(path, u"two"_s);
+    leaveBehind(path, u"three"_s);
+    write(path, QByteArray(size, ' '));
+    const qint64 before = bytesRead();
+    const QList<LeftChanges> found = Recovery::find(journals());
+    QVERIFY(bytesRead() - before < 2 * size);
+    QCOMPARE(found.size(), 3);
+    for (const LeftChanges &changes : found)
+        QCOMPARE(int(changes.state), int(LeftChanges::State::ChangedSince));
+}
+
+void TestJournal::recoveringMayBeCancelled()
+{
+    leaveBehind(sample(), u"one"_s);
+    const QString path = Recovery::find(journals()).constFirst().journal;
+    Document document;
+    Journal journal(&document, journals(), quick);
+    QString said;
+    bool waits = false;
+    document.setWait([&](const QString &text, bool mayCancel, const std::function<void()> &work) {
+        said = text;
+        if (waits || !mayCancel)
+            work();
+        return waits || !mayCancel;
+    });
+    QCOMPARE(Recovery::recover(path, &document, &journal), QString());
+    QCOMPARE(said, u"Recovering “census.mvdb”…"_s);
+    QVERIFY(!document.isModified());
+    QVERIFY(document.path().isEmpty());
+    QCOMPARE(Recovery::find(journals()).size(), 1);
+    waits = true;
+    QCOMPARE(Recovery::recover(path, &document, &journal), QString());
+    QCOMPARE(document.root()->getLabel(), u"one"_s);
+    QVERIFY(document.isModified());
+}
+
+void TestJournal::staysUntilTheEndWhenGivenUp()
+{
+    {
+        Document document;
+        Journal journal(&document, journals(), quick);
+        change(document, u"one"_s);
+        journal.setGivenUp(true);
+        journal.writeNow();
+        QCOMPARE(files().size(), 1);
+    }
+    QVERIFY(files().isEmpty());
+    {
+        Document document;
+        Journal journal(&document, journals(), quick);
+        change(document, u"one"_s);
+        journal.setGivenUp(true);
+        change(document, u"two"_s); // The end did not come.
+    }
+    QCOMPARE(files().size(), 1);
 }
 
 void TestJournal::goesOnWithTheSameJournal()

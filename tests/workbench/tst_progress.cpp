@@ -1,12 +1,16 @@
 #include "tests/support/Trees.h"
 #include "workbench/Document.h"
+#include "workbench/journal/Journal.h"
 #include "workbench/Progress.h"
 
 #include <QApplication>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include <atomic>
@@ -21,6 +25,7 @@ private Q_SLOTS:
     void shortWorkShowsNothing();
     void longWorkShowsADialogWhileTheProgramLives();
     void cancellingDoesNotWait();
+    void nothingWaitsBehindWhatWasCancelled();
     void whatCannotBeCancelledHasNoButton();
     void aCancelledOpeningLeavesTheOldDictionary();
     void savesWhatIsThereThroughAWait();
@@ -75,6 +80,40 @@ void TestProgress::cancellingDoesNotWait()
             QTest::qSleep(5);
     }));
     *go = true;
+}
+
+void TestProgress::nothingWaitsBehindWhatWasCancelled()
+{
+    struct Abandoned {
+        std::atomic_bool go = false;
+        std::atomic_int gaveUp = 0;
+    };
+    const auto abandoned = std::make_shared<Abandoned>();
+    const auto finish = qScopeGuard([abandoned] { abandoned->go = true; });
+    // As many as there are processors, and one more.
+    for (int i = 0; i <= QThread::idealThreadCount(); ++i) {
+        QTimer::singleShot(0, this, [] { shownDialog()->findChild<QPushButton *>()->click(); });
+        QVERIFY(!Progress::run(u"In vain"_s, nullptr, Progress::Cancel::Possible, [abandoned] {
+            for (int tries = 0; tries < 2000 && !abandoned->go; ++tries)
+                QTest::qSleep(5);
+            if (!abandoned->go) // So that whoever does wait is not kept for ever.
+                ++abandoned->gaveUp;
+        }));
+    }
+    for (const auto cancel : {Progress::Cancel::Possible, Progress::Cancel::Impossible}) {
+        bool done = false;
+        QVERIFY(Progress::run(u"Short"_s, nullptr, cancel, [&done] { done = true; }));
+        QVERIFY(done);
+    }
+    const QTemporaryDir folder;
+    Document document;
+    Journal journal(&document, folder.path(), {});
+    QSignalSpy written(&journal, &Journal::written);
+    document.root()->setLabel(u"Census"_s);
+    document.commit();
+    journal.writeNow();
+    QCOMPARE(written.size(), 1);
+    QCOMPARE(abandoned->gaveUp, 0);
 }
 
 void TestProgress::whatCannotBeCancelledHasNoButton()

@@ -44,10 +44,13 @@ private Q_SLOTS:
     void closingGivesUpTheJournal();
     void sessionEndAsksAsClosingDoes_data();
     void sessionEndAsksAsClosingDoes();
+    void aSessionThatGoesOnKeepsTheJournal();
     void sessionEndKeepsTheJournalUnasked();
     void typedTextIsNotForgotten();
     void aFileThatIsOpenElsewhere_data();
     void aFileThatIsOpenElsewhere();
+    void recoveringAFileThatIsOpenElsewhere_data();
+    void recoveringAFileThatIsOpenElsewhere();
     void othersChangesAreNotOverwrittenUnasked();
 
 private:
@@ -302,6 +305,19 @@ void TestRecovery::sessionEndAsksAsClosingDoes()
     QCOMPARE(Recovery::any(JournalFolder::path()), kept);
 }
 
+void TestRecovery::aSessionThatGoesOnKeepsTheJournal()
+{
+    MainWindow window;
+    window.show();
+    window.document()->root()->setLabel(u"Mine"_s);
+    window.document()->commit();
+    window.journal()->writeNow();
+    const MessageBoxAnswer box({u"Discard"_s});
+    QVERIFY(window.sessionEnd()->prepare(true));
+    // Another program may still say no.
+    QCOMPARE(QDir(JournalFolder::path()).entryList({u"*.journal"_s}).size(), 1);
+}
+
 void TestRecovery::sessionEndKeepsTheJournalUnasked()
 {
     MainWindow window;
@@ -373,6 +389,31 @@ void TestRecovery::aFileThatIsOpenElsewhere()
     QVERIFY(window.files()->open(path));
     QVERIFY(none.shown().isEmpty());
     QVERIFY(!window.document()->isReadOnly());
+}
+
+void TestRecovery::recoveringAFileThatIsOpenElsewhere_data()
+{
+    aFileThatIsOpenElsewhere_data();
+}
+
+void TestRecovery::recoveringAFileThatIsOpenElsewhere()
+{
+    QFETCH(const QString, answer);
+    QFETCH(const bool, opens);
+    QFETCH(const bool, readOnly);
+    leaveBehind(u"Census"_s);
+    const Process other = start({u"open"_s, sample()});
+    QVERIFY(other);
+    MainWindow window;
+    window.show();
+    window.recovery()->offer();
+    const MessageBoxAnswer box({answer});
+    press(dialog(window), u"Recover"_s);
+    QCOMPARE(box.texts(), QStringList({u"“census.mvdb” is open in another window."_s}));
+    QCOMPARE(window.document()->root()->getLabel(), opens ? u"Census"_s : QString());
+    QCOMPARE(window.isWindowModified(), opens);
+    QCOMPARE(window.document()->isReadOnly(), readOnly);
+    QCOMPARE(Recovery::any(JournalFolder::path()), !opens);
 }
 
 void TestRecovery::othersChangesAreNotOverwrittenUnasked()

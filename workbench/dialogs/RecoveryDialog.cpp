@@ -59,6 +59,7 @@ RecoveryDialog::RecoveryDialog(const QList<LeftChanges> &changes, QWidget *paren
             m_list, {name, QLocale().toString(one.written, QLocale::ShortFormat), describe(one)});
         item->setToolTip(Dictionary, QDir::toNativeSeparators(one.path));
         item->setData(Dictionary, Qt::UserRole, one.journal);
+        item->setData(File, Qt::UserRole, one.path);
     }
     m_list->header()->setStretchLastSection(true);
     m_list->setColumnWidth(Dictionary, 260);
@@ -91,8 +92,9 @@ QString RecoveryDialog::current() const
 void RecoveryDialog::recoverCurrent()
 {
     const QString journal = current();
+    const QString path = m_list->currentItem()->data(File, Qt::UserRole).toString();
     accept();
-    Q_EMIT recover(journal);
+    Q_EMIT recover(journal, path);
 }
 
 void RecoveryDialog::removeCurrent()

@@ -17,7 +17,8 @@ public:
     explicit RecoveryDialog(const QList<LeftChanges> &changes, QWidget *parent = nullptr);
 
 Q_SIGNALS:
-    void recover(const QString &journal);
+    /// The changes in \a journal, of the dictionary at \a path, which is empty if it was never saved.
+    void recover(const QString &journal, const QString &path);
     void remove(const QString &journal);
 
 private:

@@ -47,8 +47,8 @@ bool FileClaim::claim(const QString &path)
 
 bool FileClaim::isOpenElsewhere(const QString &path) const
 {
-    const QString mark = markOf(path);
-    if (mark == m_mark)
+    const QString mark = path.isEmpty() ? QString() : markOf(path);
+    if (mark == m_mark || mark.isEmpty())
         return false;
     const auto lock = JournalFolder::lock(mark);
     return !lock->tryLock(0) && lock->error() == QLockFile::LockFailedError;

@@ -28,7 +28,10 @@ Journal::Journal(Document *document, QString folder, Pace pace, QObject *parent)
 
 Journal::~Journal()
 {
-    writeNow();
+    if (m_givenUp)
+        discard();
+    else
+        writeNow();
 }
 
 QString Journal::partPath() const
@@ -38,6 +41,7 @@ QString Journal::partPath() const
 
 void Journal::follow()
 {
+    m_givenUp = false;
     if (!m_document->isModified()) {
         discard();
         return;

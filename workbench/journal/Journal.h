@@ -31,7 +31,7 @@ public:
 
     /// \a document is not owned and must outlive the journal.
     Journal(Document *document, QString folder, Pace pace, QObject *parent = nullptr);
-    /// Writes what is not written yet.
+    /// Writes what is not written yet, unless that was given up.
     ~Journal() override;
     Q_DISABLE_COPY_MOVE(Journal)
 
@@ -40,6 +40,9 @@ public:
     void writeNow();
     /// Removes the journal; the next change makes a new one.
     void discard();
+    /// Whether the person gave the unsaved changes up, so that the journal goes together with this object.
+    /// Any further change takes that back.
+    void setGivenUp(bool givenUp) { m_givenUp = givenUp; }
     /// Goes on with the journal at \a path, which \a lock holds: what is in it was just restored.
     void adopt(const QString &path, std::unique_ptr<QLockFile> lock);
 
@@ -64,6 +67,7 @@ private:
     QTimer m_longest;
     bool m_behind = false; // There are changes that nobody has begun to write.
     bool m_writing = false;
+    bool m_givenUp = false;
     QElapsedTimer m_duration;
     std::chrono::milliseconds m_lasted{0}; // Writing it the last time.
     std::shared_ptr<std::atomic_bool> m_abandoned; // Set to let what is being written go.

@@ -1,12 +1,12 @@
 #include "workbench/journal/Recovery.h"
 
-#include "workbench/Document.h"
 #include "workbench/journal/Journal.h"
 #include "workbench/journal/JournalFile.h"
 #include "workbench/journal/JournalFolder.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QHash>
 #include <QLockFile>
 
 #include <algorithm>
@@ -17,14 +17,19 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(Recovery)
 };
 
-LeftChanges::State stateOf(const DocumentFile::Unsaved &document)
+/// What became of the file of \a document. \a digests holds what files were found to be: several journals
+/// may belong to one, and files may be large.
+LeftChanges::State stateOf(const DocumentFile::Unsaved &document, QHash<QString, QByteArray> &digests)
 {
     using enum LeftChanges::State;
     if (document.path.isEmpty())
         return NeverSaved;
     if (!QFileInfo::exists(document.path))
         return Gone;
-    return DocumentFile::digestOf(document.path) == document.digest ? AsItWas : ChangedSince;
+    auto digest = digests.find(document.path);
+    if (digest == digests.end())
+        digest = digests.insert(document.path, DocumentFile::digestOf(document.path));
+    return *digest == document.digest ? AsItWas : ChangedSince;
 }
 } // namespace
 
@@ -39,15 +44,18 @@ QList<LeftChanges> Recovery::find(const QString &folder)
 {
     JournalFolder::cleanUp(folder);
     QList<LeftChanges> found;
+    QHash<QString, QByteArray> digests;
     const QStringList orphans = JournalFolder::orphans(folder);
     for (const QString &path : orphans) {
         if (const auto journal = JournalFile::readHeader(path))
-            found.append({path, journal->document.path, journal->written, stateOf(journal->document)});
+            found.append(
+                {path, journal->document.path, journal->written, stateOf(journal->document, digests)});
     }
     return found;
 }
 
-QString Recovery::recover(const QString &journalPath, Document *document, Journal *journal)
+QString Recovery::recover(const QString &journalPath, Document *document, Journal *journal,
+                          Document::Access access)
 {
     auto lock = JournalFolder::take(journalPath);
     if (!lock)
@@ -55,7 +63,7 @@ QString Recovery::recover(const QString &journalPath, Document *document, Journa
     const auto left = JournalFile::read(journalPath);
     if (!left)
         return Texts::tr("The changes are damaged.");
-    if (!document->restore(left->document))
+    if (!document->restore(left->document, access))
         return document->errorText();
     journal->adopt(journalPath, std::move(lock));
     return {};

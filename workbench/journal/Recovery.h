@@ -1,10 +1,11 @@
 #pragma once
 
+#include "workbench/Document.h"
+
 #include <QDateTime>
 #include <QList>
 #include <QString>
 
-class Document;
 class Journal;
 
 /// Unsaved changes that an instance left behind.
@@ -26,8 +27,10 @@ namespace Recovery
 /// and left where they are.
 [[nodiscard]] QList<LeftChanges> find(const QString &folder);
 /// Makes the changes at \a journalPath the content of \a document, modified and belonging to their file, and
-/// lets \a journal go on with it. Why that cannot be done, in words; empty when it was done.
-[[nodiscard]] QString recover(const QString &journalPath, Document *document, Journal *journal);
+/// lets \a journal go on with it. Why that cannot be done, in words; empty when it was done or the person
+/// cancelled it.
+[[nodiscard]] QString recover(const QString &journalPath, Document *document, Journal *journal,
+                              Document::Access access = Document::Access::ReadWrite);
 /// Deletes the changes at \a journalPath for good, unless an instance holds them by now.
 void remove(const QString &journalPath);
 } // namespace Recovery

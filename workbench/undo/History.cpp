@@ -67,6 +67,7 @@ History::~History() = default;
 void History::start(const TDcEntity &root)
 {
     m_stack->clear();
+    m_stack->setClean(); // An empty stack may be unclean, and then clearing it leaves it so.
     m_shadow = DictionaryCopy::copy(root);
 }
 
