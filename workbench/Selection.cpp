@@ -22,10 +22,23 @@ void Selection::setEntity(TDcEntity *entity)
         return;
     TDcVariable *first =
         entity && !entity->getVariables()->isEmpty() ? entity->getVariables()->first() : nullptr;
-    select(entity, first);
+    m_chosen = false;
+    change(entity, first);
 }
 
 void Selection::setVariables(const QList<TDcVariable *> &variables, TDcVariable *current)
+{
+    m_chosen = true;
+    change(variables, current);
+}
+
+void Selection::select(TDcEntity *entity, TDcVariable *variable)
+{
+    m_chosen = true;
+    change(entity, variable);
+}
+
+void Selection::change(const QList<TDcVariable *> &variables, TDcVariable *current)
 {
     // Not with QList's own comparison: of two empty lists it compares the memory at null.
     if (std::equal(variables.cbegin(), variables.cend(), m_variables.cbegin(), m_variables.cend())
@@ -36,7 +49,7 @@ void Selection::setVariables(const QList<TDcVariable *> &variables, TDcVariable 
     Q_EMIT variablesChanged();
 }
 
-void Selection::select(TDcEntity *entity, TDcVariable *variable)
+void Selection::change(TDcEntity *entity, TDcVariable *variable)
 {
     const bool another = entity != m_entity;
     if (another) {
@@ -48,7 +61,7 @@ void Selection::select(TDcEntity *entity, TDcVariable *variable)
     const QList<TDcVariable *> variables = variable ? QList{variable} : QList<TDcVariable *>();
     if (another && !variable)
         Q_EMIT variablesChanged();
-    setVariables(variables, variable);
+    change(variables, variable);
 }
 
 bool Selection::select(const QString &path)
@@ -138,5 +151,6 @@ void Selection::restore()
         });
     m_variables = variables;
     m_current = current == variables.cend() ? variables.value(0) : *current;
+    m_chosen = false;
     Q_EMIT variablesChanged();
 }

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] TDcVariable *variable() const { return m_variables.isEmpty() ? nullptr : m_current; }
     /// All selected variables, in the order of the entity.
     [[nodiscard]] QList<TDcVariable *> variables() const { return m_variables; }
+    /// Whether somebody asked for these variables. Otherwise they are the first one of an entity, or what is
+    /// left after a change of structure.
+    [[nodiscard]] bool isChosen() const { return m_chosen; }
 
     /// Makes \a entity the current one, and its first variable too.
     void setEntity(TDcEntity *entity);
@@ -41,6 +44,8 @@ Q_SIGNALS:
     void variablesChanged();
 
 private:
+    void change(const QList<TDcVariable *> &variables, TDcVariable *current);
+    void change(TDcEntity *entity, TDcVariable *variable);
     void remember();
     void restore();
 
@@ -48,6 +53,7 @@ private:
     TDcEntity *m_entity = nullptr; // Not owned.
     TDcVariable *m_current = nullptr; // Not owned.
     QList<TDcVariable *> m_variables; // Not owned.
+    bool m_chosen = false;
 
     // What was selected before a change of structure. Addresses are compared, never followed.
     struct Memory {

@@ -1,5 +1,7 @@
+#include "model/OwnedList.h"
 #include "model/TDcSourceField.h"
 #include "models/DatasetPropertiesFieldsModel.h"
+#include "tests/support/MessageBoxAnswer.h"
 #include "tests/workbench/Bench.h"
 #include "workbench/panels/VariableTablePanel.h"
 
@@ -35,8 +37,15 @@ private Q_SLOTS:
     void keepsColumnWidths();
     void keepsItsPlaceWhenTheStructureChanges();
     void alwaysHasACurrentIndex();
+    void showsWhatSomebodyLeadsToThoughAFilterHidesIt();
+    void keepsTheFilterForAnotherEntity();
+    void goesOnWithWhatTheFilterShows();
+    void doesNotMoveWhileFiltered();
+    void selectsNeighboursAsOneRange();
+    void staysWhereItIsWhenAnImportIsRefused();
 
 private:
+    [[nodiscard]] QStringList selected() const;
     [[nodiscard]] QStringList shown() const;
 
     std::unique_ptr<Bench> m_bench;
@@ -267,6 +276,118 @@ void TestVariableTablePanel::alwaysHasACurrentIndex()
     QVERIFY(m_panel->view()->currentIndex().isValid());
     m_bench->document.edit(u"nothing"_s, [] {});
     QVERIFY(m_panel->view()->currentIndex().isValid());
+}
+
+QStringList TestVariableTablePanel::selected() const
+{
+    QStringList names;
+    const QModelIndexList rows = m_panel->view()->selectionModel()->selectedRows();
+    for (const QModelIndex &row : rows)
+        names.append(row.data().toString());
+    return names;
+}
+
+void TestVariableTablePanel::showsWhatSomebodyLeadsToThoughAFilterHidesIt()
+{
+    m_panel->filterField()->setText(u"age"_s);
+    QCOMPARE(shown(), QStringList({u"AGE"_s, u"WAGE"_s}));
+    // What is shown anyway leaves the filter alone.
+    m_bench->selection.select(u"PERSON/WAGE"_s);
+    QCOMPARE(m_panel->filterField()->text(), u"age"_s);
+    QCOMPARE(selected(), QStringList({u"WAGE"_s}));
+    m_bench->selection.select(u"PERSON/SEX"_s);
+    QCOMPARE(m_panel->filterField()->text(), QString());
+    QCOMPARE(selected(), QStringList({u"SEX"_s}));
+    QCOMPARE(m_panel->view()->currentIndex().data().toString(), u"SEX"_s);
+    QCOMPARE(m_bench->selection.variable()->getName(), u"SEX"_s);
+    // So does a hit in another entity, and one among several.
+    m_bench->selection.select(u"DEATH"_s);
+    m_panel->filterField()->setText(u"age"_s);
+    m_bench->selection.select(u"PERSON/SEX"_s);
+    QCOMPARE(selected(), QStringList({u"SEX"_s}));
+    m_panel->filterField()->setText(u"age"_s);
+    m_bench->selection.setVariables({m_bench->variable(u"SEX"_s), m_bench->variable(u"AGE"_s)},
+                                    m_bench->variable(u"AGE"_s));
+    QCOMPARE(selected(), QStringList({u"SEX"_s, u"AGE"_s}));
+    QCOMPARE(m_panel->view()->currentIndex().data().toString(), u"AGE"_s);
+}
+
+void TestVariableTablePanel::keepsTheFilterForAnotherEntity()
+{
+    m_panel->filterField()->setText(u"age"_s);
+    m_bench->selection.select(u"DEATH"_s);
+    m_bench->selection.select(u"PERSON"_s);
+    QCOMPARE(m_panel->filterField()->text(), u"age"_s);
+    QCOMPARE(selected(), QStringList({u"AGE"_s}));
+    QCOMPARE(m_bench->selection.variable()->getName(), u"AGE"_s);
+    QCOMPARE(m_bench->selection.variables().size(), 1);
+}
+
+void TestVariableTablePanel::goesOnWithWhatTheFilterShows()
+{
+    m_panel->filterField()->setText(u"age"_s);
+    QAction *remove = m_bench->actions[ActionId::VariableRemove];
+    m_bench->selection.select(u"PERSON/WAGE"_s);
+    remove->trigger();
+    QCOMPARE(shown(), QStringList({u"AGE"_s}));
+    QCOMPARE(m_bench->selection.variable()->getName(), u"AGE"_s);
+    remove->trigger();
+    // SEX is there, but nobody sees it.
+    QCOMPARE(m_bench->variables(), QStringList({u"SEX"_s}));
+    QVERIFY(!m_bench->selection.variable());
+    QVERIFY(!remove->isEnabled());
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(m_panel->filterField()->text(), u"age"_s);
+    QCOMPARE(selected(), QStringList({u"AGE"_s}));
+    QCOMPARE(m_bench->selection.variable()->getName(), u"AGE"_s);
+    QVERIFY(m_panel->view()->currentIndex().isValid());
+}
+
+void TestVariableTablePanel::doesNotMoveWhileFiltered()
+{
+    m_bench->selection.select(u"PERSON/WAGE"_s);
+    QAction *up = m_bench->actions[ActionId::VariableMoveUp];
+    QVERIFY(up->isEnabled());
+    m_panel->filterField()->setText(u"monthly"_s);
+    QVERIFY(!up->isEnabled());
+    QVERIFY(!m_bench->actions[ActionId::VariableMoveDown]->isEnabled());
+    m_panel->filterField()->setText(u" "_s);
+    QVERIFY(up->isEnabled());
+}
+
+void TestVariableTablePanel::selectsNeighboursAsOneRange()
+{
+    TDcEntity *person = m_bench->selection.entity();
+    m_bench->document.edit(u"filling"_s, [person] {
+        for (int number = 0; number < 20; ++number)
+            person->addVariables(makeVariable(u"V%1"_s.arg(number + 10)));
+    });
+    QList<TDcVariable *> variables = *person->getVariables();
+    variables.removeAt(4);
+    m_bench->selection.setVariables(variables, variables.last());
+    const QItemSelectionModel *model = m_panel->view()->selectionModel();
+    QCOMPARE(model->selection().size(), 2);
+    QCOMPARE(model->selectedRows().size(), 22);
+    QVERIFY(!model->isRowSelected(4));
+    QCOMPARE(model->currentIndex().data().toString(), u"V29"_s);
+}
+
+void TestVariableTablePanel::staysWhereItIsWhenAnImportIsRefused()
+{
+    OwnedList<TDcSourceField> fields;
+    fields.append(std::make_unique<TDcSourceField>());
+    fields.get()->first()->name = u"WAGE"_s;
+    fields.get()->first()->label = u"Monthly wage"_s;
+    const DatasetPropertiesFieldsModel source(nullptr, fields.get(), u"*"_s);
+    const std::unique_ptr<QMimeData> payload(source.mimeData({source.index(0, 0)}));
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    const MessageBoxAnswer box({u"Cancel"_s});
+    m_panel->importFields(payload.get());
+    QCOMPARE(box.shown().size(), 1);
+    QCOMPARE(m_bench->document.undoStack()->count(), 0);
+    QCOMPARE(m_bench->selection.variable()->getName(), u"AGE"_s);
+    QCOMPARE(selected(), QStringList({u"AGE"_s}));
+    QCOMPARE(m_panel->view()->currentIndex().data().toString(), u"AGE"_s);
 }
 
 QTEST_MAIN(TestVariableTablePanel)

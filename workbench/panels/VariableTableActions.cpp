@@ -74,8 +74,8 @@ void VariableTablePanel::updateActions()
     actions[ActionId::VariableDuplicates]->setEnabled(entity);
     actions[ActionId::VariableDuplicate]->setEnabled(variable);
     actions[ActionId::VariableRemove]->setEnabled(variable);
-    // What "up" means in a sorted table nobody could tell.
-    const bool ordered = entity && m_proxy->sortColumn() < 0;
+    // What "up" means in a sorted table nobody could tell, nor what lies between where a filter hides rows.
+    const bool ordered = entity && m_proxy->sortColumn() < 0 && !isFiltered();
     actions[ActionId::VariableMoveUp]->setEnabled(
         ordered && ListEdits::canMove(*entity->getVariables(), selected, true));
     actions[ActionId::VariableMoveDown]->setEnabled(
@@ -106,7 +106,6 @@ void VariableTablePanel::duplicateVariables()
     m_workspace.document->edit(
         stepText(tr("duplicating %1"), tr("duplicating %L1 variables"), variables),
         [&] { copies = VariableEdits::duplicate(m_workspace.document->root(), entity, variables); });
-    m_filter->clear();
     m_workspace.selection->setVariables(copies, copies.value(0));
 }
 

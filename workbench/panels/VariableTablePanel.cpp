@@ -17,8 +17,12 @@
 #include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QSet>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <iterator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -56,7 +60,7 @@ VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *pare
     connect(workspace.document, &Document::contentChanged, this, [this] {
         // What the person sees is painted anew; order and filter are worked out again only where there are
         // any.
-        const bool arranged = m_proxy->sortColumn() >= 0 || !m_filter->text().trimmed().isEmpty();
+        const bool arranged = m_proxy->sortColumn() >= 0 || isFiltered();
         if (m_model && m_model->rowCount() > 0 && arranged && !m_committing)
             Q_EMIT m_model->dataChanged(m_model->index(0, 0), m_model->index(m_model->rowCount() - 1, 4));
         m_view->viewport()->update();
@@ -130,21 +134,46 @@ void VariableTablePanel::takeImport()
     if (fields == 0)
         return;
     TDcEntity *entity = m_workspace.selection->entity();
-    m_workspace.document->commit(
-        fields == 1 ? tr("import of a field") : tr("import of %L1 fields").arg(fields), entity);
-    TDcVariable *last = entity->getVariables()->isEmpty() ? nullptr : entity->getVariables()->last();
-    m_workspace.selection->select(entity, last);
+    const QString text = fields == 1 ? tr("import of a field") : tr("import of %L1 fields").arg(fields);
+    // The person may have refused all of them.
+    if (m_workspace.document->commit(text, entity))
+        m_workspace.selection->select(entity, entity->getVariables()->last());
     showSelection();
     updateCount();
 }
 
-QModelIndex VariableTablePanel::indexOf(const TDcVariable *variable, int column) const
+QList<int> VariableTablePanel::shownRows(const QList<TDcVariable *> &variables) const
 {
+    const QSet<const void *> wanted(variables.cbegin(), variables.cend());
+    QList<int> rows;
     for (int row = 0; m_model && row < m_model->rowCount(); ++row) {
-        if (m_model->index(row, 0).internalPointer() == variable)
-            return m_proxy->mapFromSource(m_model->index(row, column));
+        const QModelIndex index = m_model->index(row, 0);
+        if (!wanted.contains(index.internalPointer()))
+            continue;
+        if (const QModelIndex shown = m_proxy->mapFromSource(index); shown.isValid())
+            rows.append(shown.row());
     }
-    return {};
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+int VariableTablePanel::shownRowNear(const TDcVariable *variable) const
+{
+    const qsizetype wanted = m_workspace.selection->entity()->getVariables()->indexOf(variable);
+    int near = 0;
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const QModelIndex shown = m_proxy->mapFromSource(m_model->index(row, 0));
+        if (shown.isValid())
+            near = shown.row();
+        if (shown.isValid() && row >= wanted)
+            break;
+    }
+    return near;
+}
+
+bool VariableTablePanel::isFiltered() const
+{
+    return !m_filter->text().trimmed().isEmpty();
 }
 
 void VariableTablePanel::showSelection()
@@ -153,16 +182,38 @@ void VariableTablePanel::showSelection()
     if (m_showing)
         return;
     const QScopedValueRollback following(m_showing, true);
-    QItemSelection rows;
-    const QList<TDcVariable *> variables = m_workspace.selection->variables();
-    for (const TDcVariable *variable : variables) {
-        if (const QModelIndex index = indexOf(variable); index.isValid())
-            rows.select(index, index);
+    const Selection &selection = *m_workspace.selection;
+    QList<int> rows = shownRows(selection.variables());
+    const bool hidden = isFiltered() && rows.size() < selection.variables().size();
+    if (hidden && selection.isChosen()) {
+        // What somebody leads the person to must not stay out of sight.
+        m_filter->clear();
+        rows = shownRows(selection.variables());
+    } else if (hidden && rows.isEmpty() && m_proxy->rowCount() > 0) {
+        rows.append(shownRowNear(selection.variable()));
     }
+    select(rows, shownRows({selection.variable()}).value(0, rows.value(0, -1)));
+    // Otherwise the person goes on with what the filter shows.
+    if (hidden && !selection.isChosen())
+        adoptSelection();
+}
+
+void VariableTablePanel::select(const QList<int> &rows, int currentRow)
+{
     const int column = qMax(0, m_view->currentIndex().column());
-    const QModelIndex current = indexOf(m_workspace.selection->variable(), column);
+    const QModelIndex current = m_proxy->index(currentRow, column);
+    // Neighbours make one range: there may be very many of them.
+    QItemSelection selection;
+    for (auto first = rows.cbegin(); first != rows.cend();) {
+        const auto gap =
+            std::adjacent_find(first, rows.cend(), [](int row, int next) { return next != row + 1; });
+        const auto end = gap == rows.cend() ? gap : std::next(gap);
+        selection.append({m_proxy->index(*first, 0), m_proxy->index(*std::prev(end), 0)});
+        first = end;
+    }
     m_view->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
-    m_view->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_view->selectionModel()->select(selection,
+                                     QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     if (current.isValid())
         m_view->scrollTo(current);
 }
@@ -172,6 +223,11 @@ void VariableTablePanel::takeSelection()
     if (m_showing || !m_model)
         return;
     const QScopedValueRollback following(m_showing, true);
+    adoptSelection();
+}
+
+void VariableTablePanel::adoptSelection()
+{
     QList<int> rows;
     const QModelIndexList selected = m_view->selectionModel()->selectedRows();
     std::transform(selected.cbegin(), selected.cend(), std::back_inserter(rows),
@@ -192,14 +248,14 @@ void VariableTablePanel::setFilter(const QString &text)
 {
     m_proxy->setFilterRegularExpression(QRegularExpression(QRegularExpression::escape(text.trimmed()),
                                                            QRegularExpression::CaseInsensitiveOption));
-    const bool filtered = !text.trimmed().isEmpty();
     static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(
-        filtered ? tr("No variable matches the filter.")
-                 : tr("No variables to show. Add one, or drag fields here from the sources below."));
+        isFiltered() ? tr("No variable matches the filter.")
+                     : tr("No variables to show. Add one, or drag fields here from the sources below."));
     // What was selected may be out of sight now. Somebody who types and then presses Tab works on what is
     // left.
     if (!m_view->selectionModel()->hasSelection() && m_proxy->rowCount() > 0)
         m_view->selectRow(qMax(0, m_view->currentIndex().row()));
+    updateActions();
     updateCount();
 }
 

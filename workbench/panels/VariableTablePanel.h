@@ -41,6 +41,7 @@ private:
     void showEntity(TDcEntity *entity);
     void showSelection();
     void takeSelection();
+    void adoptSelection();
     void setFilter(const QString &text);
     void updateCount();
     void updateActions();
@@ -51,7 +52,13 @@ private:
     void moveVariables(bool up);
     void toggleRole(VariableEdits::Role role);
 
-    [[nodiscard]] QModelIndex indexOf(const TDcVariable *variable, int column = 0) const;
+    [[nodiscard]] bool isFiltered() const;
+    /// The rows of the view with \a variables, from the top; a filter may hide some of them.
+    [[nodiscard]] QList<int> shownRows(const QList<TDcVariable *> &variables) const;
+    /// The row of the view with the next shown variable after \a variable, or else with the last one.
+    [[nodiscard]] int shownRowNear(const TDcVariable *variable) const;
+    /// Selects \a rows of the view; the one without a current row is -1.
+    void select(const QList<int> &rows, int currentRow);
 
     Workspace m_workspace;
     QLineEdit *m_filter;
