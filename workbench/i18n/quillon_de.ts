@@ -2078,6 +2078,10 @@
         <source>Saving “%1”…</source>
         <translation>„%1“ wird gespeichert…</translation>
     </message>
+    <message>
+        <source>Recovering “%1”…</source>
+        <translation>„%1“ wird wiederhergestellt…</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -3525,6 +3529,10 @@
     <message>
         <source>Notes (%L1)…</source>
         <translation>Hinweise (%L1)…</translation>
+    </message>
+    <message>
+        <source>Nothing matches the filter.</source>
+        <translation>Nichts passt zum Filter.</translation>
     </message>
 </context>
 <context>

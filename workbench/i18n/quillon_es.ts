@@ -2078,6 +2078,10 @@
         <source>Saving “%1”…</source>
         <translation>Guardando «%1»…</translation>
     </message>
+    <message>
+        <source>Recovering “%1”…</source>
+        <translation>Recuperando «%1»…</translation>
+    </message>
 </context>
 <context>
     <name>DocumentFile</name>
@@ -3525,6 +3529,10 @@
     <message>
         <source>Notes (%L1)…</source>
         <translation>Notas (%L1)…</translation>
+    </message>
+    <message>
+        <source>Nothing matches the filter.</source>
+        <translation>Nada coincide con el filtro.</translation>
     </message>
 </context>
 <context>
