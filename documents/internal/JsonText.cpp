@@ -21,6 +21,21 @@ QByteArray withEscapedMarks(const QByteArray &bytes)
     constexpr QByteArrayView raw("\"\xEF\xBB\xBF");
     return bytes.contains(raw) ? QByteArray(bytes).replace(raw, QByteArrayView("\"\\ufeff")) : bytes;
 }
+
+/// Where the text ends that begins with the quotation mark at \a begin.
+qsizetype endOfText(QByteArrayView text, qsizetype begin)
+{
+    const auto isEscaped = [text](qsizetype at) {
+        qsizetype first = at;
+        while (text[first - 1] == '\\')
+            --first;
+        return (at - first) % 2 != 0;
+    };
+    qsizetype end = text.indexOf('"', begin + 1);
+    while (end >= 0 && isEscaped(end))
+        end = text.indexOf('"', end + 1);
+    return end < 0 ? text.size() : end;
+}
 } // namespace
 
 JsonText::Content JsonText::read(const QByteArray &bytes)
@@ -55,17 +70,22 @@ QByteArray JsonText::write(const QJsonValue &value, Style style)
 bool JsonText::isTooDeep(QByteArrayView text)
 {
     int depth = 0;
-    bool quoted = false;
     for (qsizetype i = 0; i < text.size() && depth <= deepest; ++i) {
-        const char c = text[i];
-        if (quoted && c == '\\')
-            ++i;
-        else if (c == '"')
-            quoted = !quoted;
-        else if (!quoted && (c == '{' || c == '['))
+        switch (text[i]) {
+        case '"':
+            i = endOfText(text, i);
+            break;
+        case '{':
+        case '[':
             ++depth;
-        else if (!quoted && (c == '}' || c == ']'))
+            break;
+        case '}':
+        case ']':
             --depth;
+            break;
+        default:
+            break;
+        }
     }
     return depth > deepest;
 }

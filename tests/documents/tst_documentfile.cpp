@@ -236,7 +236,7 @@ private Q_SLOTS:
             TDcEntity *last = dictionary.root();
             for (int level = 1; level < depth; ++level) {
                 auto *child = new TDcEntity;
-                child->setLabel(u"[[{\"{["_s); // Nothing is nested in a text.
+                child->setLabel(u"[[{\"{[\\"_s); // Nothing is nested in a text.
                 last->getChildren()->append(child);
                 last = child;
             }
