@@ -376,6 +376,10 @@ void tst_DictionaryCheck::countsBySeverity()
     warning.severity = Severity::Warning;
     QCOMPARE(DictionaryCheck::summary({error, Finding(), error, warning}),
              u"Errors: 2, warnings: 1, notes: 1."_s);
+    QLocale::setDefault(QLocale(QLocale::English));
+    QCOMPARE(DictionaryCheck::summary(QList<Finding>(40'002, error)),
+             u"Errors: 40,002, warnings: 0, notes: 0."_s);
+    QLocale::setDefault(QLocale::c());
     QCOMPARE(DictionaryCheck::severityName(Severity::Error), u"Error"_s);
     QCOMPARE(DictionaryCheck::severityName(Severity::Warning), u"Warning"_s);
     QCOMPARE(DictionaryCheck::severityName(Severity::Note), u"Note"_s);

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void offersABoxWhereTheModelDoesNot();
     void offersNoneWhereNoneIsShown();
     void passesTheSwitchOn();
+    void alignsNumbersToTheRight();
 };
 
 void TestCheckableProxy::offersABoxWhereTheModelDoesNot()
@@ -51,6 +52,20 @@ void TestCheckableProxy::passesTheSwitchOn()
     proxy.setSourceModel(&model);
     QVERIFY(proxy.setData(proxy.index(0, 0), Qt::Checked, Qt::CheckStateRole));
     QCOMPARE(entity.getVariables()->first()->getChecked(), 1);
+}
+
+void TestCheckableProxy::alignsNumbersToTheRight()
+{
+    TDcEntity entity;
+    entity.addVariables(makeVariable(u"AGE"_s));
+    VariableModel model(nullptr, &entity, entity.getVariables());
+    CheckableProxy proxy;
+    proxy.setSourceModel(&model);
+    const auto alignment = [&proxy](int column) {
+        return proxy.index(0, column).data(Qt::TextAlignmentRole);
+    };
+    QCOMPARE(alignment(0), QVariant());
+    QCOMPARE(alignment(4), QVariant(int(Qt::AlignRight | Qt::AlignVCenter)));
 }
 
 QTEST_APPLESS_MAIN(TestCheckableProxy)
