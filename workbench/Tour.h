@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/Actions.h"
+#include "workbench/MainWindow.h"
 
 #include <QCoreApplication>
 #include <QList>
@@ -8,7 +9,6 @@
 
 #include <functional>
 
-class MainWindow;
 class QDialog;
 class QWidget;
 
@@ -45,7 +45,10 @@ private:
     bool giveValues();
     bool openDataFile();
     bool importFields();
+    bool openTextFile();
+    bool showLookups();
     bool showUndo();
+    bool keepWork();
     bool save();
     bool check();
     bool search();
@@ -53,10 +56,16 @@ private:
     bool buildExpression();
     bool selectAreas();
     bool makeRun();
+    bool offerRecovery();
+    bool showAbout();
 
     /// The dialog that \a id opens.
     template <typename Dialog>
-    Dialog *show(ActionId id);
+    Dialog *show(ActionId id)
+    {
+        trigger(id);
+        return m_window->findChild<Dialog *>();
+    }
     /// Takes the picture of \a dialog and closes it.
     bool dismiss(QDialog *dialog);
     void trigger(ActionId id);

@@ -2,13 +2,8 @@
 
 #include "model/TDcEntity.h"
 #include "model/TDcVariable.h"
-#include "workbench/dialogs/AreaSelectionDialog.h"
 #include "workbench/dialogs/CopyValuesDialog.h"
-#include "workbench/dialogs/EditTogetherDialog.h"
-#include "workbench/dialogs/ExpressionDialog.h"
-#include "workbench/dialogs/ExpressionEdit.h"
 #include "workbench/dialogs/LabelSetsDialog.h"
-#include "workbench/MainWindow.h"
 #include "workbench/operations/NewNames.h"
 #include "workbench/panels/EntityTreePanel.h"
 #include "workbench/panels/FindPanel.h"
@@ -17,7 +12,6 @@
 #include "workbench/panels/SourceTab.h"
 #include "workbench/panels/ValueLabelsPanel.h"
 #include "workbench/panels/VariableTablePanel.h"
-#include "workbench/run/RunWizard.h"
 #include "workbench/SourceCommands.h"
 
 #include <QDeadlineTimer>
@@ -25,13 +19,14 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTableView>
+#include <QTabWidget>
 #include <QTreeView>
 
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
-// What the tour does at each of its stops.
+// What the tour does at each of its stops, but for the larger dialogs.
 
 namespace
 {
@@ -67,7 +62,10 @@ QList<Tour::Stop> Tour::stops()
         {"source", TEXT("A data file lists its fields."), [this] { return openDataFile(); }},
         {"import", TEXT("The fields become variables; clashes are resolved."),
          [this] { return importFields(); }},
+        {"csv", TEXT("The columns of a text file are listed."), [this] { return openTextFile(); }},
+        {"lookups", TEXT("Lookup tables have a place of their own."), [this] { return showLookups(); }},
         {"undo", TEXT("Every step can be undone and redone."), [this] { return showUndo(); }},
+        {"question", TEXT("No work is lost unasked."), [this] { return keepWork(); }},
         {"save", TEXT("The dictionary is saved."), [this] { return save(); }},
         {"problems", TEXT("The dictionary is checked."), [this] { return check(); }},
         {"search", TEXT("The whole tree is searched."), [this] { return search(); }},
@@ -80,15 +78,11 @@ QList<Tour::Stop> Tour::stops()
          [this] { return buildExpression(); }},
         {"areas", TEXT("Area units are selected."), [this] { return selectAreas(); }},
         {"run", TEXT("A run configuration is made."), [this] { return makeRun(); }},
+        {"recovery", TEXT("After a crash the unsaved changes are offered."),
+         [this] { return offerRecovery(); }},
+        {"about", TEXT("The workbench says what it is."), [this] { return showAbout(); }},
     };
 #undef TEXT
-}
-
-template <typename Dialog>
-Dialog *Tour::show(ActionId id)
-{
-    trigger(id);
-    return m_window->findChild<Dialog *>();
 }
 
 bool Tour::open()
@@ -98,6 +92,8 @@ bool Tour::open()
         return false;
     }
     m_window->selection()->setEntity(richest(m_window->document()->root()));
+    // Progress takes the keyboard while a large dictionary is read; without it editors would stay open.
+    m_window->activateWindow();
     return picture(m_window);
 }
 
@@ -215,54 +211,24 @@ bool Tour::search()
     return picture(m_window);
 }
 
-bool Tour::editTogether()
+bool Tour::openTextFile()
 {
-    m_window->findChild<VariableTablePanel *>()->view()->selectAll();
-    settle();
-    return dismiss(show<EditTogetherDialog>(ActionId::VariableEditTogether));
+    if (!m_areas.isEmpty() && !m_window->findChild<SourceCommands *>()->openCsv(m_areas))
+        return false;
+    return picture(m_window);
 }
 
-bool Tour::buildExpression()
+bool Tour::showLookups()
 {
-    auto *dialog = show<ExpressionDialog>(ActionId::ToolsExpression);
-    if (!dialog)
-        return false;
-    const TDcEntity *entity = m_window->selection()->entity();
-    if (const TDcVariable *variable = m_window->selection()->variable())
-        dialog->editor()->setPlainText(entity->getName() + u'.' + variable->getName() + u" > 3 AND ("_s);
-    return dismiss(dialog);
+    auto *sources = m_window->findChild<SourcesPanel *>();
+    sources->findChild<QTabWidget *>()->setCurrentWidget(sources->lookups());
+    return picture(m_window);
 }
 
-bool Tour::selectAreas()
+bool Tour::keepWork()
 {
-    auto *dialog = show<AreaSelectionDialog>(ActionId::ToolsAreas);
-    if (!dialog || (!m_areas.isEmpty() && !dialog->load(m_areas)))
-        return false;
-    QAbstractItemModel *model = dialog->view()->model();
-    const QModelIndex root = model->index(0, 0);
-    for (int row : {1, 3}) {
-        const QModelIndex unit = model->index(row, 0, root);
-        if (unit.isValid() && !model->setData(unit, Qt::Checked, Qt::CheckStateRole))
-            return false;
-    }
-    return dismiss(dialog);
-}
-
-bool Tour::makeRun()
-{
-    auto *wizard = show<RunWizard>(ActionId::ToolsNewRun);
-    if (!wizard)
-        return false;
-    // It starts with everything chosen; only a name is wanted.
-    const QList<QLineEdit *> fields = wizard->currentPage()->findChildren<QLineEdit *>(u"name"_s);
-    for (QLineEdit *field : fields)
-        field->setText(tr("First run"));
-    for (int page = -1; wizard->nextId() >= 0 && wizard->currentId() != page; wizard->next()) {
-        page = wizard->currentId();
-        if (!picture(wizard))
-            return false;
-    }
-    return dismiss(wizard);
+    // The question is not answered, so the window stays.
+    return !m_window->document()->isModified() || answer({}, [this] { m_window->close(); });
 }
 
 bool Tour::save()

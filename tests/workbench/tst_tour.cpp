@@ -80,7 +80,8 @@ void TestTour::goesRoundTheSample()
     }
     for (const auto &stop :
          {u"open"_s, u"rename"_s, u"find"_s, u"edit"_s, u"values"_s, u"source"_s, u"import"_s, u"undo"_s,
-          u"save"_s, u"problems"_s, u"expression"_s, u"areas"_s, u"run"_s})
+          u"csv"_s, u"lookups"_s, u"question"_s, u"save"_s, u"problems"_s, u"together"_s, u"expression"_s,
+          u"areas"_s, u"run"_s, u"recovery"_s, u"about"_s})
         QVERIFY2(!names.filter(u'-' + stop + u'.').isEmpty(), qUtf8Printable(stop));
 
     // What was done is in the saved copy.

@@ -3826,6 +3826,26 @@
         <source>There is a file %1 already. Choose an empty folder.</source>
         <translation>Die Datei %1 gibt es schon. Wählen Sie einen leeren Ordner.</translation>
     </message>
+    <message>
+        <source>The columns of a text file are listed.</source>
+        <translation>Die Spalten einer Textdatei werden aufgelistet.</translation>
+    </message>
+    <message>
+        <source>Lookup tables have a place of their own.</source>
+        <translation>Nachschlagetabellen haben ihren eigenen Platz.</translation>
+    </message>
+    <message>
+        <source>No work is lost unasked.</source>
+        <translation>Keine Arbeit geht ungefragt verloren.</translation>
+    </message>
+    <message>
+        <source>After a crash the unsaved changes are offered.</source>
+        <translation>Nach einem Absturz werden die nicht gespeicherten Änderungen angeboten.</translation>
+    </message>
+    <message>
+        <source>The workbench says what it is.</source>
+        <translation>Das Programm sagt, was es ist.</translation>
+    </message>
 </context>
 <context>
     <name>UtilForms</name>

@@ -3826,6 +3826,26 @@
         <source>There is a file %1 already. Choose an empty folder.</source>
         <translation>Ya hay un archivo %1. Elija una carpeta vacía.</translation>
     </message>
+    <message>
+        <source>The columns of a text file are listed.</source>
+        <translation>Se enumeran las columnas de un archivo de texto.</translation>
+    </message>
+    <message>
+        <source>Lookup tables have a place of their own.</source>
+        <translation>Las tablas de consulta tienen su propio lugar.</translation>
+    </message>
+    <message>
+        <source>No work is lost unasked.</source>
+        <translation>Ningún trabajo se pierde sin preguntar.</translation>
+    </message>
+    <message>
+        <source>After a crash the unsaved changes are offered.</source>
+        <translation>Tras un cierre inesperado se ofrecen los cambios no guardados.</translation>
+    </message>
+    <message>
+        <source>The workbench says what it is.</source>
+        <translation>El programa dice qué es.</translation>
+    </message>
 </context>
 <context>
     <name>UtilForms</name>
