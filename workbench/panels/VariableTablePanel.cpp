@@ -6,7 +6,6 @@
 #include "models/VariablesDictionaryProxyModel.h"
 #include "workbench/Actions.h"
 #include "workbench/Document.h"
-#include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
 #include "workbench/Selection.h"
 
@@ -14,7 +13,6 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSet>
@@ -30,12 +28,11 @@ VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *pare
     : QWidget(parent), m_workspace(workspace),
       m_filter(Widgets::filterField(tr("Filter variables"),
                                     tr("Filter variables by name, alias, label, group or tag"), this)),
-      m_count(new QLabel(this)), m_proxy(new VariablesDictionaryProxyModel(this))
+      m_count(new QLabel(this)), m_view(new EmptyText<QTableView>(this)),
+      m_proxy(new VariablesDictionaryProxyModel(this))
 {
-    auto *table = new EmptyText<QTableView>(this);
-    table->setEmptyText(tr("No variables to show. Add one, or drag fields here from the sources below."));
-    m_view = table;
     m_columns = std::make_unique<ColumnMemory>(m_view, u"variables"_s);
+    m_view->setEmptyText(tr("No variables to show. Add one, or drag fields here from the sources below."));
     Widgets::setUpTable(m_view, tr("Variables"));
     m_view->setModel(m_proxy);
     m_view->setAcceptDrops(true);
@@ -246,9 +243,8 @@ void VariableTablePanel::adoptSelection()
 
 void VariableTablePanel::setFilter(const QString &text)
 {
-    m_proxy->setFilterRegularExpression(QRegularExpression(QRegularExpression::escape(text.trimmed()),
-                                                           QRegularExpression::CaseInsensitiveOption));
-    static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(
+    Widgets::filterBy(m_proxy, text);
+    m_view->setEmptyText(
         isFiltered() ? tr("No variable matches the filter.")
                      : tr("No variables to show. Add one, or drag fields here from the sources below."));
     // What was selected may be out of sight now. Somebody who types and then presses Tab works on what is

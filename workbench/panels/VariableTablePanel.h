@@ -2,9 +2,10 @@
 
 #include "workbench/operations/VariableEdits.h"
 #include "workbench/panels/ColumnMemory.h"
+#include "workbench/panels/EmptyText.h"
 #include "workbench/Workspace.h"
 
-#include <QWidget>
+#include <QTableView>
 
 #include <memory>
 
@@ -12,7 +13,6 @@ class QLabel;
 class QLineEdit;
 class QMimeData;
 class QModelIndex;
-class QTableView;
 class TDcEntity;
 class TDcVariable;
 class VariableDiccionaryModel;
@@ -63,7 +63,7 @@ private:
     Workspace m_workspace;
     QLineEdit *m_filter;
     QLabel *m_count;
-    QTableView *m_view;
+    EmptyText<QTableView> *m_view;
     VariablesDictionaryProxyModel *m_proxy;
     VariableDiccionaryModel *m_model = nullptr; // Owned by the panel.
     int m_imported = 0; // Fields of the drop that is under way.

@@ -8,7 +8,6 @@
 #include "models/VariableModelSplitStep3.h"
 #include "models/VariablesProxyModel.h"
 #include "models/VariablesProxyModelDownStep4.h"
-#include "workbench/panels/EmptyText.h"
 #include "workbench/panels/Widgets.h"
 #include "workbench/proxies/CheckableProxy.h"
 #include "workbench/run/RunDraft.h"
@@ -21,7 +20,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QShortcut>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -58,27 +56,24 @@ VariablesPage::VariablesPage(RunDraft *draft, Step step, QWidget *parent)
 
 void VariablesPage::describe()
 {
-    switch (m_step) {
-    case Step::Choose:
-        setObjectName(u"runVariablesPage"_s);
-        setTitle(tr("Variables"));
-        setSubTitle(tr("Tick the variables that take part, entity by entity. Space switches the ticks of the "
-                       "selected rows."));
-        return;
-    case Step::Split:
-        setObjectName(u"runSplitPage"_s);
-        setTitle(tr("Split"));
-        setSubTitle(
-            tr("Tick what tells the records apart when they are split. The ticks are those of the page "
-               "before; reference codes, labels and weights are offered here too."));
-        return;
-    case Step::Down:
-        setObjectName(u"runDownPage"_s);
-        setTitle(tr("Download"));
-        setSubTitle(tr("These variables are downloaded. Take away the ticks of those that are not wanted "
-                       "after all."));
-        return;
-    }
+    struct Words {
+        const char *name, *title, *subTitle;
+    };
+    static constexpr Words words[] = {
+        {"runVariablesPage", QT_TR_NOOP("Variables"),
+         QT_TR_NOOP("Tick the variables that take part, entity by entity. Space switches the ticks of the "
+                    "selected rows.")},
+        {"runSplitPage", QT_TR_NOOP("Split"),
+         QT_TR_NOOP("Tick what tells the records apart when they are split. The ticks are those of the page "
+                    "before; reference codes, labels and weights are offered here too.")},
+        {"runDownPage", QT_TR_NOOP("Download"),
+         QT_TR_NOOP("These variables are downloaded. Take away the ticks of those that are not wanted "
+                    "after all.")},
+    };
+    const Words &mine = words[int(m_step)];
+    setObjectName(QLatin1StringView(mine.name));
+    setTitle(tr(mine.title));
+    setSubTitle(tr(mine.subTitle));
 }
 
 QWidget *VariablesPage::makeEntities()
@@ -98,8 +93,7 @@ QWidget *VariablesPage::makeEntities()
 
 QWidget *VariablesPage::makeVariables()
 {
-    auto *table = new EmptyText<QTableView>(this);
-    m_view = table;
+    m_view = new EmptyText<QTableView>(this);
     Widgets::setUpTable(m_view, tr("Variables"));
     m_view->setModel(m_proxy);
     m_view->setObjectName(u"variables"_s);
@@ -228,12 +222,10 @@ void VariablesPage::arrangeColumns()
 
 void VariablesPage::setFilter(const QString &text)
 {
-    m_proxy->setFilterRegularExpression(QRegularExpression(QRegularExpression::escape(text.trimmed()),
-                                                           QRegularExpression::CaseInsensitiveOption));
-    static_cast<EmptyText<QTableView> *>(m_view)->setEmptyText(
-        !text.trimmed().isEmpty()  ? tr("No variable matches the filter.")
-            : m_step == Step::Down ? tr("Nothing of this entity is downloaded.")
-                                   : tr("This entity has no variables to choose from."));
+    Widgets::filterBy(m_proxy, text);
+    m_view->setEmptyText(!text.trimmed().isEmpty()  ? tr("No variable matches the filter.")
+                             : m_step == Step::Down ? tr("Nothing of this entity is downloaded.")
+                                                    : tr("This entity has no variables to choose from."));
     // What was selected may be hidden now; Space needs rows to work on.
     if (!m_view->selectionModel()->hasSelection() && m_proxy->rowCount() > 0)
         m_view->selectRow(qMax(0, m_view->currentIndex().row()));

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "workbench/panels/EmptyText.h"
 #include "workbench/run/RunPage.h"
 
 #include <QModelIndexList>
+#include <QTableView>
 
 class CheckableProxy;
 class CheckListModel;
@@ -12,7 +14,6 @@ class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
 class QSortFilterProxyModel;
-class QTableView;
 class TDcEntity;
 class TDcVariable;
 
@@ -60,7 +61,7 @@ private:
     QListWidget *m_entities;
     QCheckBox *m_all;
     QLineEdit *m_filter;
-    QTableView *m_view;
+    EmptyText<QTableView> *m_view = nullptr; // Made with the variables' side.
     QLabel *m_count;
     QHash<const TDcEntity *, QList<TDcVariable *>> m_offered;
     CheckListModel *m_model = nullptr;
