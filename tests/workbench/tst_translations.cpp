@@ -2,6 +2,7 @@
 #include "documents/codebook/Codebook.h"
 #include "documents/DictionaryCopy.h"
 #include "documents/DictionaryDifference.h"
+#include "models/base/CheckListModel.h"
 #include "models/VariableDiccionaryModel.h"
 #include "tests/workbench/Bench.h"
 #include "tests/workbench/IsolatedSettings.h"
@@ -13,6 +14,7 @@
 #include "workbench/panels/SourcesPanel.h"
 #include "workbench/panels/SourceTab.h"
 #include "workbench/panels/ValueLabelsPanel.h"
+#include "workbench/run/StepModels.h"
 #include "workbench/SourceCommands.h"
 #include "workbench/Translations.h"
 
@@ -21,6 +23,7 @@
 #include <QMenu>
 #include <QScrollArea>
 #include <QSet>
+#include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -65,6 +68,8 @@ private Q_SLOTS:
     void reachesEveryLayer();
     void titlesEveryColumn_data();
     void titlesEveryColumn();
+    void titlesTheVariablesOfARun_data();
+    void titlesTheVariablesOfARun();
     void anotherLanguageReplacesTheFirst();
     void englishIsALanguageOfItsOwn();
 
@@ -235,6 +240,35 @@ void TestTranslations::titlesEveryColumn()
         titles.append(columns.join(u' '));
     }
     QTEST(titles, "titles");
+}
+
+void TestTranslations::titlesTheVariablesOfARun_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("titles");
+    QTest::addRow("none") << u"C"_s << QStringList{u"Name"_s, u"Label"_s, u"Alias"_s, u"Group"_s, u"Tag"_s};
+    QTest::addRow("German") << u"de"_s
+                            << QStringList{u"Name"_s, u"Label"_s, u"Alias"_s, u"Gruppe"_s, u"Nummer"_s};
+    QTest::addRow("Spanish") << u"es"_s
+                             << QStringList{u"Nombre"_s, u"Etiqueta"_s, u"Alias"_s, u"Grupo"_s, u"Número"_s};
+}
+
+void TestTranslations::titlesTheVariablesOfARun()
+{
+    QFETCH(const QString, language);
+    QFETCH(const QStringList, titles);
+    Translations::install(language);
+    Bench bench;
+    for (const auto step :
+         {VariablesPage::Step::Choose, VariablesPage::Step::Split, VariablesPage::Step::Down}) {
+        QSortFilterProxyModel *proxy = StepModels::makeProxy(step, &bench.document);
+        proxy->setSourceModel(StepModels::make(step, bench.entity(u"PERSON"_s), proxy));
+        QStringList columns;
+        for (int column = 0; column < proxy->columnCount(); ++column)
+            columns.append(proxy->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        QCOMPARE(columns, titles.first(columns.size()));
+        QCOMPARE(columns.size(), step == VariablesPage::Step::Choose ? 5 : 3);
+    }
 }
 
 void TestTranslations::anotherLanguageReplacesTheFirst()

@@ -4397,6 +4397,26 @@ Soll sie es bleiben?</translation>
         <source>&amp;Untick Shown</source>
         <translation>Gezeig&amp;te abwählen</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Nummer</translation>
+    </message>
 </context>
 <context>
     <name>dictionaryTreeModelDownload</name>

@@ -4397,6 +4397,26 @@ Keep it as RefCode?</source>
         <source>&amp;Untick Shown</source>
         <translation>Desmarcar las m&amp;ostradas</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Número</translation>
+    </message>
 </context>
 <context>
     <name>dictionaryTreeModelDownload</name>

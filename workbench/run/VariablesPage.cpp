@@ -3,15 +3,12 @@
 #include "model/ConfigEntities.h"
 #include "model/TDcEntity.h"
 #include "model/TDcVariable.h"
-#include "models/VariableModel.h"
-#include "models/VariableModelDownStep4.h"
-#include "models/VariableModelSplitStep3.h"
-#include "models/VariablesProxyModel.h"
-#include "models/VariablesProxyModelDownStep4.h"
+#include "models/base/CheckListModel.h"
 #include "workbench/panels/Widgets.h"
 #include "workbench/proxies/CheckableProxy.h"
 #include "workbench/run/RunDraft.h"
 #include "workbench/run/RunWords.h"
+#include "workbench/run/StepModels.h"
 
 #include <QCheckBox>
 #include <QHeaderView>
@@ -21,26 +18,18 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace
-{
-QSortFilterProxyModel *makeProxy(VariablesPage::Step step, QObject *parent)
-{
-    if (step == VariablesPage::Step::Down)
-        return new VariablesProxyModelDownStep4(parent);
-    return new VariablesProxyModel(parent);
-}
-} // namespace
-
 VariablesPage::VariablesPage(RunDraft *draft, Step step, QWidget *parent)
     : RunPage(draft, parent), m_step(step), m_entities(new QListWidget(this)),
       m_all(new QCheckBox(tr("Take all variables, those that are a&dded later too"), this)),
       m_filter(Widgets::filterField(tr("Filter variables"), tr("Filter the variables"), this)),
-      m_count(new QLabel(this)), m_checkable(new CheckableProxy(this)), m_proxy(makeProxy(step, this))
+      m_count(new QLabel(this)), m_checkable(new CheckableProxy(this)),
+      m_proxy(StepModels::makeProxy(step, this))
 {
     describe();
     m_proxy->setFilterKeyColumn(-1);
@@ -143,29 +132,6 @@ QWidget *VariablesPage::makeVariables()
     return side;
 }
 
-CheckListModel *VariablesPage::makeModel(TDcEntity *entity)
-{
-    switch (m_step) {
-    case Step::Choose:
-        return new VariableModel(this, entity, entity->getVariables());
-    case Step::Split:
-        return new VariableModelSplitStep3(this, entity, entity->getVariables());
-    case Step::Down:
-        break;
-    }
-    QList<TDcVariable *> taken = RunDraft::checkedVariables(entity);
-    return new VariableModelDownStep4(this, entity, &taken);
-}
-
-QList<TDcVariable *> VariablesPage::offered(TDcEntity *entity)
-{
-    const std::unique_ptr<CheckListModel> model(makeModel(entity));
-    QList<TDcVariable *> variables;
-    for (int row = 0; row < model->rowCount(); ++row)
-        variables.append(static_cast<TDcVariable *>(model->index(row, 0).internalPointer()));
-    return variables;
-}
-
 void VariablesPage::initializePage()
 {
     m_filter->clear();
@@ -175,7 +141,7 @@ void VariablesPage::initializePage()
     for (TDcEntity *entity : chosen) {
         auto *item = new QListWidgetItem(m_entities);
         item->setData(Qt::UserRole, QVariant::fromValue(static_cast<void *>(entity)));
-        m_offered.insert(entity, offered(entity));
+        m_offered.insert(entity, StepModels::offered(m_step, entity));
     }
     m_entities->setCurrentRow(0);
     showCounts();
@@ -201,7 +167,7 @@ void VariablesPage::showEntity()
     m_all->setEnabled(entity);
     if (!entity)
         return;
-    m_model = makeModel(entity);
+    m_model = StepModels::make(m_step, entity, this);
     m_checkable->setSourceModel(m_model);
     connect(m_model, &QAbstractItemModel::dataChanged, this, &VariablesPage::followChecks);
     arrangeColumns();
@@ -216,7 +182,9 @@ void VariablesPage::arrangeColumns()
     QHeaderView *header = m_view->horizontalHeader();
     header->setStretchLastSection(false);
     for (int column = 0; column < header->count(); ++column)
-        header->resizeSection(column, letters[column] * fontMetrics().averageCharWidth());
+        header->resizeSection(
+            column,
+            qMax(header->sectionSizeHint(column), letters[column] * fontMetrics().averageCharWidth()));
     header->setSectionResizeMode(labelColumn, QHeaderView::Stretch);
 }
 

@@ -41,9 +41,6 @@ private:
     void describe();
     [[nodiscard]] QWidget *makeEntities();
     [[nodiscard]] QWidget *makeVariables();
-    [[nodiscard]] CheckListModel *makeModel(TDcEntity *entity);
-    /// What the page has to choose from of \a entity.
-    [[nodiscard]] QList<TDcVariable *> offered(TDcEntity *entity);
 
     void showEntity();
     void arrangeColumns();
