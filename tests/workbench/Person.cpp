@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QLineEdit>
@@ -133,7 +134,11 @@ void Person::takeKeyboard()
     // A window that is not on the screen yet does not take the keyboard, so it is offered again. A window
     // that has it and did not hear of it is told when it comes back from another one.
     const QDeadlineTimer deadline(patience);
-    while (!see<bool>([front] { return front()->isActiveWindow(); })) {
+    // A popup, such as the list of a completer, has the keyboard in place of the window below it.
+    const auto hasKeyboard = [front] {
+        return QApplication::activePopupWidget() || front()->isActiveWindow();
+    };
+    while (!see<bool>(hasKeyboard)) {
         if (deadline.hasExpired()) {
             m_missed += u" waited in vain for the active window"_s;
             return;
@@ -255,6 +260,15 @@ void Person::type(const QString &text)
 {
     takeKeyboard();
     perform({u"type"_s, u"--delay"_s, u"12"_s, text});
+}
+
+void Person::paste(const QString &text)
+{
+    see<bool>([&text] {
+        QGuiApplication::clipboard()->setText(text);
+        return true;
+    });
+    press({u"ctrl+a"_s, u"ctrl+v"_s});
 }
 
 void Person::answer(const QString &button, bool byMouse)

@@ -48,6 +48,8 @@ public:
     /// Presses keys one after the other, each written as in "ctrl+shift+s", "Return" or "alt+v".
     void press(const QStringList &keys);
     void type(const QString &text);
+    /// Pastes \a text over what is there.
+    void paste(const QString &text);
 
     /// Waits for a dialog and presses its button called \a button, by the mouse or with Tab and Space.
     void answer(const QString &button, bool byMouse);

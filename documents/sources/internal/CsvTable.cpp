@@ -61,6 +61,8 @@ public:
     {
         csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI);
         csv_set_delim(&m_parser, static_cast<unsigned char>(delimiter));
+        // It makes room for a long cell in steps of this size, and may copy the cell at each.
+        csv_set_blk_size(&m_parser, std::size_t(1) << 20);
     }
     ~RowParser() { csv_free(&m_parser); }
     Q_DISABLE_COPY_MOVE(RowParser)
