@@ -8,7 +8,7 @@ DataFile::DataFile(const QString &path, const SourceOptions &options) : m_file(p
 
 QString DataFile::open()
 {
-    const QString problem = InputFile::open(m_file);
+    QString problem = InputFile::open(m_file);
     m_size = m_file.size();
     return problem;
 }
