@@ -2,7 +2,7 @@
 
 QVariant CheckableProxy::data(const QModelIndex &index, int role) const
 {
-    const QVariant value = QIdentityProxyModel::data(index, role);
+    QVariant value = QIdentityProxyModel::data(index, role);
     if (role != Qt::TextAlignmentRole || value.isValid())
         return value;
     const bool isNumber = QIdentityProxyModel::data(index, Qt::DisplayRole).typeId() == QMetaType::Int;
