@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+#include <limits>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
@@ -14,6 +15,8 @@ class TestVariableEdits : public QObject
 private Q_SLOTS:
     void init();
 
+    void newVariablesHaveTagsOfTheirOwn_data();
+    void newVariablesHaveTagsOfTheirOwn();
     void whatIsRemovedHasNoRole_data();
     void whatIsRemovedHasNoRole();
     void aRoleGoesToTheOtherOfTheSameName();
@@ -41,6 +44,30 @@ void TestVariableEdits::init()
     m_entity->setRefLabel(u" TITLE "_s); // Documents may hold blanks.
     m_entity->setWeightVariable(u"WEIGHT"_s);
     m_entity->setSelectable(true);
+}
+
+void TestVariableEdits::newVariablesHaveTagsOfTheirOwn_data()
+{
+    constexpr int highest = std::numeric_limits<int>::max();
+    QTest::addColumn<QList<int>>("there");
+    QTest::addColumn<QList<int>>("added");
+    QTest::addRow("none there") << QList({0, 0}) << QList({1, 2, 3});
+    QTest::addRow("after the highest") << QList({7, 3}) << QList({8, 9, 10});
+    QTest::addRow("negative ones") << QList({-5, -9}) << QList({1, 2, 3});
+    QTest::addRow("none after the highest integer") << QList({2, highest}) << QList({1, 3, 4});
+    QTest::addRow("close to it") << QList({1, highest - 1}) << QList({highest, 2, 3});
+}
+
+void TestVariableEdits::newVariablesHaveTagsOfTheirOwn()
+{
+    QFETCH(const QList<int>, there);
+    for (int row = 0; row < there.size(); ++row)
+        at(row)->setTag(there.at(row));
+    const TDcVariable *added = VariableEdits::add(m_entity.get(), u"NEW"_s);
+    const QList<TDcVariable *> copies =
+        VariableEdits::duplicate(m_entity.get(), m_entity.get(), {at(0), at(1)});
+    const QList<int> tags{added->getTag(), copies.at(0)->getTag(), copies.at(1)->getTag()};
+    QTEST(tags, "added");
 }
 
 void TestVariableEdits::whatIsRemovedHasNoRole_data()

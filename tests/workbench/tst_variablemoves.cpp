@@ -7,6 +7,8 @@
 
 #include <QTest>
 
+#include <limits>
+
 using namespace Qt::Literals::StringLiterals;
 
 class TestVariableMoves : public QObject
@@ -22,6 +24,7 @@ private Q_SLOTS:
     void findsFreeNames();
     void givesTwoOfANameTwoNames();
     void keepsTagsThatAreFree();
+    void givesNoTagTwiceAtTheHighestInteger();
     void takesRolesAway();
     void leavesRolesToATwin();
     void changesNothingYet();
@@ -45,6 +48,15 @@ private:
         for (const TDcVariable *variable : std::as_const(*entity->getVariables()))
             lines.append(variable->getName() + u'|' + variable->getAlias());
         return lines;
+    }
+
+    /// Of the variables that are there after a move.
+    [[nodiscard]] QList<int> tags()
+    {
+        QList<int> tags;
+        for (const TDcVariable *variable : std::as_const(*death()->getVariables()))
+            tags.append(variable->getTag());
+        return tags;
     }
 
     std::unique_ptr<Bench> m_bench;
@@ -130,10 +142,19 @@ void TestVariableMoves::keepsTagsThatAreFree()
     find(u"SEX"_s)->setTag(4);
     find(u"AGE"_s)->setTag(9);
     moves({u"SEX"_s, u"AGE"_s, u"WAGE"_s}).apply();
-    QList<int> tags;
-    for (const TDcVariable *variable : std::as_const(*death()->getVariables()))
-        tags.append(variable->getTag());
-    QCOMPARE(tags, QList<int>({4, 10, 9, 0}));
+    QCOMPARE(tags(), QList<int>({4, 10, 9, 0}));
+}
+
+void TestVariableMoves::givesNoTagTwiceAtTheHighestInteger()
+{
+    constexpr int highest = std::numeric_limits<int>::max();
+    death()->addVariables(makeVariable(u"CAUSE"_s));
+    death()->getVariables()->last()->setTag(highest);
+    find(u"SEX"_s)->setTag(highest);
+    find(u"AGE"_s)->setTag(1);
+    find(u"WAGE"_s)->setTag(highest);
+    moves({u"SEX"_s, u"AGE"_s, u"WAGE"_s}).apply();
+    QCOMPARE(tags(), QList<int>({highest, 2, 1, 3}));
 }
 
 void TestVariableMoves::takesRolesAway()

@@ -13,8 +13,8 @@
 
 VariableTarget::VariableTarget(TDcEntity *root, TDcEntity *entity, const QList<TDcVariable *> &displayed,
                                const QList<int> &columns)
-    : m_root(root), m_entity(entity), m_nextTag(VariableEdits::nextTag(*entity)),
-      m_properties(properties(columns)), m_displayedColumns(int(columns.size()))
+    : m_root(root), m_entity(entity), m_newTags(*entity->getVariables()), m_properties(properties(columns)),
+      m_displayedColumns(int(columns.size()))
 {
     for (TDcVariable *variable : displayed)
         append(variable);
@@ -80,7 +80,7 @@ int VariableTarget::find(const QStringList &keys)
 void VariableTarget::add(const QStringList &keys)
 {
     // The name is stored later, as any other cell is; until then it is in nobody's way.
-    TDcVariable *variable = VariableEdits::add(m_entity, {}, m_nextTag++);
+    TDcVariable *variable = VariableEdits::add(m_entity, {}, m_newTags.take());
     append(variable);
     m_added.append(variable);
     if (!keys.isEmpty())

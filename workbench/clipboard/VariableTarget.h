@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/clipboard/PasteTarget.h"
+#include "workbench/operations/NewTags.h"
 #include "workbench/operations/VariableWriter.h"
 
 #include <QHash>
@@ -41,7 +42,7 @@ private:
     QHash<const TDcVariable *, int> m_rows; // The other way round.
     QList<TDcVariable *> m_added;
     QList<TDcVariable *> m_discarded; // Still the entity's until all cells are stored.
-    int m_nextTag;
+    NewTags m_newTags;
     QList<VariableProperty> m_properties; // By column.
     int m_displayedColumns;
     QHash<QString, TDcVariable *> m_byName;

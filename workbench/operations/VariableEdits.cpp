@@ -6,6 +6,7 @@
 #include "model/TDcVariable.h"
 #include "workbench/operations/ListEdits.h"
 #include "workbench/operations/NewNames.h"
+#include "workbench/operations/NewTags.h"
 
 #include <QSet>
 
@@ -41,17 +42,9 @@ bool anyHas(const TDcEntity &entity, const QList<TDcVariable *> &variables, Role
 }
 } // namespace
 
-int VariableEdits::nextTag(const TDcEntity &entity)
-{
-    int highest = 0;
-    for (const TDcVariable *variable : std::as_const(*entity.getVariables()))
-        highest = std::max(highest, variable->getTag());
-    return highest + 1;
-}
-
 TDcVariable *VariableEdits::add(TDcEntity *entity, const QString &name)
 {
-    return add(entity, name, nextTag(*entity));
+    return add(entity, name, NewTags(*entity->getVariables()).take());
 }
 
 TDcVariable *VariableEdits::add(TDcEntity *entity, const QString &name, int tag)
@@ -69,13 +62,13 @@ QList<TDcVariable *> VariableEdits::duplicate(TDcEntity *root, TDcEntity *entity
                                               const QList<TDcVariable *> &variables)
 {
     QList<TDcVariable *> copies;
-    int tag = nextTag(*entity);
+    NewTags tags(*entity->getVariables());
     auto names = NewNames::forVariables(root, entity);
     for (const TDcVariable *variable : variables) {
         std::unique_ptr<TDcVariable> copy = DictionaryCopy::copy(*variable);
         copy->setName(names.take(variable->getName()));
         copy->setAlias({});
-        copy->setTag(tag++);
+        copy->setTag(tags.take());
         copies.append(copy.get());
         entity->addVariables(copy.release());
     }

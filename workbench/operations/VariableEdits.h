@@ -12,9 +12,7 @@ namespace VariableEdits
 /// What a variable can be for its entity.
 enum class Role { RefCode, RefLabel, Weight };
 
-/// The tag after the highest of \a entity.
-[[nodiscard]] int nextTag(const TDcEntity &entity);
-/// Adds a whole-number variable called \a name at the end, with the next tag.
+/// Adds a whole-number variable called \a name at the end, with a tag of its own.
 TDcVariable *add(TDcEntity *entity, const QString &name);
 /// The same with \a tag, for whoever adds many and counts.
 TDcVariable *add(TDcEntity *entity, const QString &name, int tag);

@@ -4,11 +4,10 @@
 #include "model/TDcEntity.h"
 #include "model/TDcVariable.h"
 #include "workbench/operations/NewNames.h"
+#include "workbench/operations/NewTags.h"
 #include "workbench/operations/VariableEdits.h"
 
 #include <QSet>
-
-#include <algorithm>
 
 VariableMoves::VariableMoves(TDcEntity *root, TDcEntity *from, const QList<TDcVariable *> &variables,
                              TDcEntity *to)
@@ -21,9 +20,7 @@ VariableMoves::VariableMoves(TDcEntity *root, TDcEntity *from, const QList<TDcVa
     QSet<int> tags{0}; // Any number of variables may have none.
     for (const TDcVariable *variable : std::as_const(*to->getVariables()))
         tags.insert(variable->getTag());
-    int next = VariableEdits::nextTag(*to);
-    for (const TDcVariable *variable : variables)
-        next = std::max(next, variable->getTag() + 1);
+    NewTags newTags(*to->getVariables() + variables);
     for (TDcVariable *variable : variables) {
         Arrival arrival{variable, names.take(variable->getName()), {}, variable->getTag()};
         (void)aliases.take(arrival.name);
@@ -32,7 +29,7 @@ VariableMoves::VariableMoves(TDcEntity *root, TDcEntity *from, const QList<TDcVa
             (void)names.take(alias);
         }
         if (arrival.tag != 0 && tags.contains(arrival.tag))
-            arrival.tag = next++;
+            arrival.tag = newTags.take();
         tags.insert(arrival.tag);
         m_arrivals.append(arrival);
     }
