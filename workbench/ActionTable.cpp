@@ -50,7 +50,7 @@ QList<Actions::Row> Actions::table()
          TEXT("Move the entity before the one above it")},
         {EntityMoveDown, MenuId::Entity, MenuOnly, "48px-Move-down", noKeys, TEXT("Move Entity Do&wn"),
          TEXT("Move the entity after the one below it")},
-        {EntityMoveTo, MenuId::Entity, MenuOnly, nullptr, noKeys, TEXT("Move Entity &To…"),
+        {EntityMoveTo, MenuId::Entity, MenuOnly, "48px-Move-to", noKeys, TEXT("Move Entity &To…"),
          TEXT("Move the entity with everything below it to another place in the tree")},
 
         {VariableAdd, MenuId::Variable, ToolBar, "new", "Ctrl+I", TEXT("&Add Variable"),
@@ -65,7 +65,7 @@ QList<Actions::Row> Actions::table()
          TEXT("Move the selected variables up in the entity's order")},
         {VariableMoveDown, MenuId::Variable, MenuOnly, "48px-Move-down", "Alt+Down",
          TEXT("Move Variables Do&wn"), TEXT("Move the selected variables down in the entity's order")},
-        {VariableMoveTo, MenuId::Variable, MenuOnly, nullptr, noKeys, TEXT("Move Variables &To…"),
+        {VariableMoveTo, MenuId::Variable, MenuOnly, "48px-Move-to", noKeys, TEXT("Move Variables &To…"),
          TEXT("Move the selected variables to another entity")},
         {VariableRefCode, MenuId::Variable, GroupStart, "48px-Entity-code", noKeys,
          TEXT("Use as Reference &Code"), TEXT("Make the variable the entity's reference code, or stop it")},
