@@ -56,6 +56,7 @@ private:
     bool buildExpression();
     bool selectAreas();
     bool makeRun();
+    bool showProgress();
     bool offerRecovery();
     bool showAbout();
 

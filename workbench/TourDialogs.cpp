@@ -8,6 +8,7 @@
 #include "workbench/dialogs/ExpressionEdit.h"
 #include "workbench/dialogs/RecoveryDialog.h"
 #include "workbench/panels/VariableTablePanel.h"
+#include "workbench/Progress.h"
 #include "workbench/run/RunWizard.h"
 
 #include <QCheckBox>
@@ -15,7 +16,12 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressDialog>
+#include <QSemaphore>
 #include <QTableView>
+#include <QTimer>
+
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -79,6 +85,26 @@ bool Tour::makeRun()
             return false;
     }
     return dismiss(wizard);
+}
+
+bool Tour::showProgress()
+{
+    bool drawn = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, m_window, [this, &drawn] {
+        auto *dialog = m_window->findChild<QProgressDialog *>(u"progress"_s);
+        drawn = dialog && picture(dialog);
+        if (dialog)
+            dialog->close(); // Which cancels; cancel() would tell nobody.
+    });
+    look.start(0);
+    const QString text =
+        QCoreApplication::translate("Document", "Opening “%1”…").arg(m_window->document()->title());
+    const auto seen = std::make_shared<QSemaphore>();
+    const bool finished =
+        Progress::run(text, m_window, Progress::Cancel::Possible, [seen] { seen->acquire(); });
+    seen->release();
+    return drawn && !finished;
 }
 
 bool Tour::offerRecovery()

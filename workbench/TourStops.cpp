@@ -78,6 +78,8 @@ QList<Tour::Stop> Tour::stops()
          [this] { return buildExpression(); }},
         {"areas", TEXT("Area units are selected."), [this] { return selectAreas(); }},
         {"run", TEXT("A run configuration is made."), [this] { return makeRun(); }},
+        {"progress", TEXT("What takes long says so and can be cancelled."),
+         [this] { return showProgress(); }},
         {"recovery", TEXT("After a crash the unsaved changes are offered."),
          [this] { return offerRecovery(); }},
         {"about", TEXT("The workbench says what it is."), [this] { return showAbout(); }},

@@ -3839,6 +3839,10 @@
         <translation>Keine Arbeit geht ungefragt verloren.</translation>
     </message>
     <message>
+        <source>What takes long says so and can be cancelled.</source>
+        <translation>Was lange dauert, sagt es und lässt sich abbrechen.</translation>
+    </message>
+    <message>
         <source>After a crash the unsaved changes are offered.</source>
         <translation>Nach einem Absturz werden die nicht gespeicherten Änderungen angeboten.</translation>
     </message>

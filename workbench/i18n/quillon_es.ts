@@ -3839,6 +3839,10 @@
         <translation>Ningún trabajo se pierde sin preguntar.</translation>
     </message>
     <message>
+        <source>What takes long says so and can be cancelled.</source>
+        <translation>Lo que tarda mucho lo dice y se puede cancelar.</translation>
+    </message>
+    <message>
         <source>After a crash the unsaved changes are offered.</source>
         <translation>Tras un cierre inesperado se ofrecen los cambios no guardados.</translation>
     </message>
