@@ -1,4 +1,5 @@
 #include "workbench/CommandLine.h"
+#include "workbench/DisplayServer.h"
 #include "workbench/MainWindow.h"
 #include "workbench/RecoveryCommands.h"
 #include "workbench/SessionEnd.h"
@@ -64,6 +65,7 @@ int work(MainWindow &window, const CommandLine &line)
 
 int main(int argc, char *argv[])
 {
+    const bool display = DisplayServer::find(argc, argv);
     QApplication application(argc, argv);
     QApplication::setOrganizationName(u"Quillon"_s);
     QApplication::setApplicationName(u"quillon-workbench"_s);
@@ -79,6 +81,9 @@ int main(int argc, char *argv[])
         return fail(line.error);
     Theme::apply(line.theme);
     Translations::install(line.language);
+    if (!display && !line.isForPictures())
+        return fail(QApplication::translate(
+            "main", "There is no display. Without one, --screenshot and --tour draw pictures."));
 
     // Pictures show nothing of a person's settings and unsaved work, and leave nothing there.
     const QTemporaryDir home;
@@ -94,5 +99,7 @@ int main(int argc, char *argv[])
     window.show();
     if (!line.tour.isEmpty())
         return tour(window, line);
-    return line.screenshot.isEmpty() ? work(window, line) : screenshot(window, line);
+    if (!line.screenshot.isEmpty())
+        return screenshot(window, line);
+    return work(window, line);
 }

@@ -4439,5 +4439,9 @@ Soll sie es bleiben?</translation>
         <source>There is no %1 in the dictionary.</source>
         <translation>Es gibt %1 im Wörterbuch nicht.</translation>
     </message>
+    <message>
+        <source>There is no display. Without one, --screenshot and --tour draw pictures.</source>
+        <translation>Es gibt keinen Bildschirm. Ohne ihn zeichnen --screenshot und --tour Bilder.</translation>
+    </message>
 </context>
 </TS>

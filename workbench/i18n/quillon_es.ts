@@ -4439,5 +4439,9 @@ Keep it as RefCode?</source>
         <source>There is no %1 in the dictionary.</source>
         <translation>No hay ningún %1 en el diccionario.</translation>
     </message>
+    <message>
+        <source>There is no display. Without one, --screenshot and --tour draw pictures.</source>
+        <translation>No hay pantalla. Sin ella, --screenshot y --tour dibujan imágenes.</translation>
+    </message>
 </context>
 </TS>

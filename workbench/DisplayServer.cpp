@@ -1,0 +1,19 @@
+#include "workbench/DisplayServer.h"
+
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <algorithm>
+
+bool DisplayServer::find(int count, char *const *arguments)
+{
+    const auto isSet = [](const char *name) { return !qEnvironmentVariableIsEmpty(name); };
+    const auto names = [](QByteArrayView argument) {
+        return argument.endsWith("-platform") || argument.endsWith("-display");
+    };
+    if (isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM")
+        || std::any_of(arguments, arguments + count, names))
+        return true;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return false;
+}
