@@ -20,7 +20,9 @@ QByteArray withEscapedMarks(const QByteArray &bytes)
 {
     constexpr QByteArrayView raw("\"\xEF\xBB\xBF");
     // A single byte is found much faster, and hardly any document has this one.
-    return bytes.contains(raw[1]) && bytes.contains(raw) ? QByteArray(bytes).replace(raw, QByteArrayView("\"\\ufeff")) : bytes;
+    return bytes.contains(raw[1]) && bytes.contains(raw)
+        ? QByteArray(bytes).replace(raw, QByteArrayView("\"\\ufeff"))
+        : bytes;
 }
 
 /// Where the text ends that begins with the quotation mark at \a begin.
