@@ -26,7 +26,7 @@ bool load(DictionaryFile &file, const QByteArray &text)
 /// The dictionary document that \a text is; without what of it is not kept.
 DictionaryDocument documentOf(const QString &name, const QByteArray &text)
 {
-    const QJsonValue content = Cli::valueOf(QJsonDocument::fromJson(text));
+    const QJsonValue content = Cli::valueOf(DocumentFile::parsed(text));
     const QJsonObject object = content.toObject();
     DictionaryDocument document{content, content.isArray() ? QString() : DocumentKind::rootKey(object), {}};
     const QJsonValue entities = document.entities();

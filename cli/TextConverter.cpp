@@ -4,6 +4,7 @@
 #include "cli/Input.h"
 #include "cli/Output.h"
 #include "cli/Text.h"
+#include "documents/DocumentFile.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -54,7 +55,7 @@ void print(const QString &place, const QJsonValue &value, Cli::Output &output)
 void Cli::convertToText(const QString &path, Output &output)
 {
     const QByteArray bytes = Input::readAll(path);
-    if (const QJsonDocument document = QJsonDocument::fromJson(bytes); !document.isNull())
+    if (const QJsonDocument document = DocumentFile::parsed(bytes); !document.isNull())
         print({}, valueOf(document), output);
     else
         output.raw(bytes);

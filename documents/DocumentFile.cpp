@@ -39,9 +39,10 @@ bool DocumentFile::fail(Error error, const QString &text)
 
 bool DocumentFile::stopped(const std::stop_token &stop)
 {
-    if (stop.stop_requested())
+    const bool isStopped = stop.stop_requested();
+    if (isStopped)
         fail(Error::None, {});
-    return stop.stop_requested();
+    return isStopped;
 }
 
 void DocumentFile::remember(const QString &path, const QByteArray &bytes)
@@ -69,6 +70,11 @@ bool DocumentFile::open(const QString &path, const std::stop_token &stop)
     m_losses = lossesOf(bytes);
     remember(path, bytes);
     return true;
+}
+
+QJsonDocument DocumentFile::parsed(const QByteArray &bytes)
+{
+    return JsonText::parse(bytes);
 }
 
 QStringList DocumentFile::lossesOf(const QByteArray &bytes)

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QFlags>
+#include <QJsonDocument>
 #include <QString>
 #include <QStringList>
 
@@ -75,6 +76,10 @@ public:
 
     /// Tells what the file held when it was opened or saved last from any other content; empty until then.
     [[nodiscard]] QByteArray digest() const { return m_digest; }
+    /// The JSON document that \a bytes are, as opening a file reads it; null when they are none. Unlike Qt
+    /// alone this keeps a byte order mark at the beginning of a text inside.
+    [[nodiscard]] static QJsonDocument parsed(const QByteArray &bytes);
+
     /// The digest() of the file at \a path as it is now; empty when it cannot be read.
     [[nodiscard]] static QByteArray digestOf(const QString &path);
 

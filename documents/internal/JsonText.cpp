@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 using namespace Qt::Literals::StringLiterals;
@@ -41,6 +40,11 @@ qsizetype endOfText(QByteArrayView text, qsizetype begin)
 }
 } // namespace
 
+QJsonDocument JsonText::parse(const QByteArray &bytes, QJsonParseError *error)
+{
+    return QJsonDocument::fromJson(withEscapedMarks(bytes), error);
+}
+
 JsonText::Content JsonText::read(const QByteArray &bytes)
 {
     Content content;
@@ -50,9 +54,9 @@ JsonText::Content JsonText::read(const QByteArray &bytes)
         return content;
     }
     QJsonParseError error;
-    QJsonDocument document = QJsonDocument::fromJson(withEscapedMarks(bytes), &error);
+    const QJsonDocument document = parse(bytes, &error);
     if (error.error != QJsonParseError::NoError) {
-        document = QJsonDocument::fromJson(bytes, &error); // Places count in the text as it stands.
+        (void)QJsonDocument::fromJson(bytes, &error); // Places count in the text as it stands.
         content.problem = u"%1: %2"_s.arg(TextPosition::of(bytes, error).toString(), error.errorString());
         return content;
     }

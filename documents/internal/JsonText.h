@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonDocument>
 #include <QString>
 #include <QVariant>
 
@@ -23,6 +24,8 @@ struct Content {
     QString problem;
 };
 
+/// The document that \a bytes are; null for malformed text, and then \a error says why.
+[[nodiscard]] QJsonDocument parse(const QByteArray &bytes, QJsonParseError *error = nullptr);
 [[nodiscard]] Content read(const QByteArray &bytes);
 
 /// The text of \a value, an object or an array.
