@@ -2,6 +2,7 @@
 
 #include "cli/DocumentReader.h"
 #include "cli/ObjectKind.h"
+#include "documents/DocumentFile.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -50,6 +51,14 @@ bool sayTheSame(const QString &key, const QJsonValue &before, const QJsonValue &
         return false;
     const QVariant left = before.toVariant();
     const QVariant right = after.toVariant();
+    if (before.isDouble() != after.isDouble()) { // Codes are written as the type has them: 1 for "01".
+        bool isNumber = false;
+        bool isOther = false;
+        const double number = left.toDouble(&isNumber);
+        const double other = right.toDouble(&isOther);
+        if (isNumber && isOther)
+            return number == other;
+    }
     return before.isBool() || after.isBool() ? left.toBool() == right.toBool()
                                              : left.toString() == right.toString();
 }
@@ -156,9 +165,7 @@ private:
 Cli::OtherDifferences Cli::otherDifferences(const QByteArray &before, const QByteArray &after)
 {
     Comparison comparison;
-    const auto document = [](const QByteArray &text) {
-        return framed(valueOf(QJsonDocument::fromJson(text)));
-    };
+    const auto document = [](const QByteArray &text) { return framed(valueOf(DocumentFile::parsed(text))); };
     comparison.objects(document(before), document(after), frameKind, {});
     return comparison.found;
 }

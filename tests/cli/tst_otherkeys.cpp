@@ -194,6 +194,25 @@ private Q_SLOTS:
             }
         }
     }
+
+    void codesThatAnotherTypeWritesAsNumbersAreNoOtherValues()
+    {
+        const auto variable = [](const char *type) {
+            return json("{'variables': [{'name': 'V', 'type': '") + type
+                + json("', 'valueLabels': [{'value': '01', 'label': 'x'}, {'value': '1.50', 'label': "
+                       "'y'}]}]}");
+        };
+        const TestFolder folder;
+        const QString text = folder.write(u"a.mvdb"_s, variable("string"));
+        for (const char *type : {"integer", "real"}) {
+            const QString number = folder.write(u"b.mvdb"_s, variable(type));
+            for (const QStringList &files : {QStringList{text, number}, QStringList{number, text}}) {
+                const ProgramRun run = runProgram(QStringList{u"diff"_s} + files);
+                QVERIFY2(!run.output.contains(u"Other value"_s), qPrintable(run.output));
+                QVERIFY2(run.output.contains(u"type changed"_s), qPrintable(run.output));
+            }
+        }
+    }
 };
 
 QTEST_APPLESS_MAIN(TestOtherKeys)
