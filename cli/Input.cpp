@@ -29,6 +29,11 @@ bool Input::isStandard(const QString &path)
     return path == "-"_L1;
 }
 
+QString Input::pathOf(const QString &path)
+{
+    return isStandard(path) ? u"/dev/stdin"_s : path;
+}
+
 QString Input::nameOf(const QString &path)
 {
     return isStandard(path) ? u"standard input"_s : path;
@@ -37,7 +42,7 @@ QString Input::nameOf(const QString &path)
 QByteArray Input::readAll(const QString &path)
 {
     const bool standard = isStandard(path);
-    const QFileInfo info(standard ? u"/dev/stdin"_s : path);
+    const QFileInfo info(pathOf(path));
     if (info.isDir())
         throw Failure(u"%1: is a directory, not a file"_s.arg(nameOf(path)));
     const bool terminal = standard && isatty(STDIN_FILENO);

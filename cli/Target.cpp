@@ -18,9 +18,10 @@ void Cli::checkTarget(const QString &in, const QString &out, Overwrite overwrite
     const QFileInfo target(out);
     if (target.isDir())
         throw Failure(u"%1: is a directory, not a file"_s.arg(out));
+    const QFileInfo source(Input::pathOf(in));
     std::error_code error;
-    if (std::filesystem::equivalent(QFileInfo(in).filesystemFilePath(), target.filesystemFilePath(), error))
-        throw Failure(u"%1 and %2 are the same file"_s.arg(in, out));
+    if (std::filesystem::equivalent(source.filesystemFilePath(), target.filesystemFilePath(), error))
+        throw Failure(u"%1 and %2 are the same file"_s.arg(Input::nameOf(in), out));
     if (target.exists() && !target.isFile())
         throw Failure(u"%1: is not a regular file"_s.arg(out));
     if (target.exists() && overwrite == Overwrite::Never)

@@ -1,5 +1,6 @@
 #include "tests/cli/Program.h"
 
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QTest>
 
@@ -60,6 +61,19 @@ private Q_SLOTS:
         const QByteArray written = folder.read(u"out.mvdb"_s);
         QVERIFY(written.contains("\"name\": \"V\""));
         QVERIFY(!written.contains("why"));
+    }
+
+    void aByteOrderMarkInsideATextIsLostToo()
+    {
+        const TestFolder folder;
+        const QString in = folder.write(
+            u"in.mvdb"_s,
+            json(
+                "{'root': [{'name': 'A', 'label': '\xEF\xBB\xBFx', 'selectable': true, 'virtual': false}]}"));
+        const ProgramRun run = runProgram({u"convert"_s, in, folder.path(u"out.mvdb"_s)});
+        QVERIFY2(run.output.startsWith(u"root[0] \"A\": label: changed from "_s), qPrintable(run.output));
+        QCOMPARE(run.status, 1);
+        QVERIFY(!QFile::exists(folder.path(u"out.mvdb"_s)));
     }
 
     void whatTheParserDropsIsLostToo()
@@ -138,6 +152,33 @@ private Q_SLOTS:
             QCOMPARE(run.status, 2);
         }
         QCOMPARE(folder.read(u"in.mvdb"_s), lossless);
+    }
+
+    void refusesToWriteOverTheFileOnStandardInput()
+    {
+        const TestFolder folder;
+        const QString in = folder.write(u"in.mvdb"_s, lossy);
+        QProcess process;
+        process.setStandardInputFile(in);
+        process.start(QStringLiteral(QUILLON_PROGRAM),
+                      {u"convert"_s, u"--lossy"_s, u"--force"_s, u"-"_s, in});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(QString::fromUtf8(process.readAllStandardError()),
+                 u"quillon: standard input and %1 are the same file\n"_s.arg(in));
+        QCOMPARE(process.exitCode(), 2);
+        QCOMPARE(folder.read(u"in.mvdb"_s), lossy);
+    }
+
+    void writesAFileCalledAsStandardInputIs()
+    {
+        const TestFolder folder;
+        QProcess process;
+        process.setStandardInputFile(folder.write(u"in.mvdb"_s, lossless));
+        process.setWorkingDirectory(QFileInfo(folder.write(u"-"_s, "old")).path());
+        process.start(QStringLiteral(QUILLON_PROGRAM), {u"convert"_s, u"-"_s, u"./-"_s, u"--force"_s});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 0);
+        QCOMPARE(QJsonDocument::fromJson(folder.read(u"-"_s)), QJsonDocument::fromJson(lossless));
     }
 
     void refusesTargetsThatAreNoFiles()
