@@ -59,6 +59,8 @@ void tst_LookupFile::refuses_data()
     QTest::addRow("no id") << QByteArray("code,label\n1,x\n")
                            << u"a.csv, line 1: No column is called \"id\"."_s;
     QTest::addRow("empty id") << QByteArray("id,label\n1,x\n,y\n") << u"a.csv, line 3: The id is empty."_s;
+    QTest::addRow("cells without text")
+        << QByteArray("id\tlabel\n1\tx\n\n\t\n") << u"a.csv, line 4: The id is empty."_s;
     QTest::addRow("twice") << QByteArray("id,label\n1,x\n2,y\n1,z\n")
                            << u"a.csv, line 4: The id \"1\" stands in line 2 too."_s;
     QTest::addRow("ragged") << QByteArray("id,label\n1\n")

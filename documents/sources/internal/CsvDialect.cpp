@@ -66,7 +66,7 @@ char likeliestDelimiter(QStringView sample, bool isWhole)
     return likeliest;
 }
 
-/// Whether most of what is beyond ASCII in \a file is whole characters of UTF-8.
+/// Whether at least half of what is beyond ASCII in \a file is whole characters of UTF-8.
 bool isMostlyUtf8(QFile &file)
 {
     QStringDecoder decoder(QStringConverter::Utf8);

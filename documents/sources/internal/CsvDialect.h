@@ -18,8 +18,8 @@ public:
 
     /// Looks at \a file, which is open, and takes what \a options says. Returns what is wrong, empty when
     /// nothing is. A file that is no UTF-8 and has no byte order mark is taken as Windows-1252, where every
-    /// byte but a few is a letter, unless most of what is beyond ASCII is whole characters of UTF-8: then it
-    /// is UTF-8 with damage.
+    /// byte but a few is a letter, unless at least half of what is beyond ASCII is whole characters of UTF-8:
+    /// then it is UTF-8 with damage, and refused rather than garbled.
     [[nodiscard]] QString detect(QFile &file, const SourceOptions &options);
 
 private:

@@ -57,7 +57,8 @@ private:
 class RowParser
 {
 public:
-    RowParser(char delimiter, const CsvTable::RowHandler &handle) : m_handle(handle)
+    RowParser(char delimiter, const CsvTable::RowHandler &handle)
+        : m_handle(handle), m_delimiter(QLatin1Char(delimiter))
     {
         csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI);
         csv_set_delim(&m_parser, static_cast<unsigned char>(delimiter));
@@ -71,7 +72,7 @@ public:
     QString feed(QStringView line)
     {
         ++m_line;
-        if (m_betweenRows && !line.trimmed().isEmpty()) {
+        if (m_betweenRows && !isPassedOver(line)) {
             m_betweenRows = false;
             m_row.line = m_line;
         }
@@ -102,6 +103,14 @@ public:
     [[nodiscard]] qint64 rows() const { return m_rows; }
 
 private:
+    /// Whether the parser sees no row in \a line.
+    [[nodiscard]] bool isPassedOver(QStringView line) const
+    {
+        return std::all_of(line.cbegin(), line.cend(), [this](QChar c) {
+            return c == u'\n' || c == u'\r' || ((c == u' ' || c == u'\t') && c != m_delimiter);
+        });
+    }
+
     QString at(qint64 line, const QString &problem)
     {
         m_problemLine = line;
@@ -140,6 +149,7 @@ private:
     }
 
     const CsvTable::RowHandler &m_handle;
+    QChar m_delimiter;
     csv_parser m_parser{};
     CsvRow m_row;
     qint64 m_line = 0;
