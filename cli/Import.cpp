@@ -51,6 +51,11 @@ void requireKind(const QString &path, const QString &option, const QStringList &
 void checkOptions(const Cli::ImportOptions &options)
 {
     const QStringList texts{u"csv"_s, u"tsv"_s, u"tab"_s, u"txt"_s};
+    if (!options.source.encoding.isEmpty()) {
+        QStringList encoded = SourceReader::suffixes();
+        encoded.removeOne(u"json"_s); // JSON has but one.
+        requireKind(options.dataFile, u"encoding"_s, encoded);
+    }
     if (!options.source.catalog.isEmpty())
         requireKind(options.dataFile, u"catalog"_s, {u"sas7bdat"_s, u"xpt"_s});
     if (!options.source.delimiter.isNull())

@@ -11,6 +11,7 @@
 
 #include <CLI/CLI.hpp>
 #include <QFile>
+#include <QLocale>
 #include <QLoggingCategory>
 
 #include <cstdio>
@@ -72,6 +73,8 @@ int main(int argc, char **argv)
 {
     // Standard error is for what the program has to say, not for Qt's remarks.
     QLoggingCategory::setFilterRules(u"*.debug=false\n*.warning=false"_s);
+    // Its texts are English, and what reads them expects the same numbers everywhere.
+    QLocale::setDefault(QLocale::c());
     QFile standardOutput;
     (void)standardOutput.open(stdout, QIODevice::WriteOnly);
     Cli::Output output(standardOutput, Cli::Output::coloursSuitStandardOutput(),

@@ -284,6 +284,9 @@ private Q_SLOTS:
         QTest::addRow("catalog of a text file")
             << u"d.csv"_s << QByteArray(people) << QStringList{u"--catalog"_s, u"nothere"_s}
             << u"quillon: FOLDER/d.csv: --catalog is only for files ending in .sas7bdat, .xpt"_s;
+        QTest::addRow("encoding of JSON")
+            << u"d.json"_s << R"({"fields": []})"_ba << QStringList{u"--encoding"_s, u"latin1"_s}
+            << u"quillon: FOLDER/d.json: --encoding is only for files ending in .sav, "_s;
         QTest::addRow("delimiter of a file without one")
             << u"d.sav"_s << survey() << QStringList{u"--delimiter"_s, u";"_s}
             << u"quillon: FOLDER/d.sav: --delimiter is only for files ending in .csv, .tsv, .tab, .txt"_s;
