@@ -3,6 +3,7 @@
 #include "documents/DictionaryCopy.h"
 #include "model/TDcEntity.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
@@ -84,6 +85,15 @@ bool Document::read(const QString &text, Access access, const Read &read)
     return true;
 }
 
+bool Document::isAt(const QString &path) const
+{
+    const auto place = [](const QFileInfo &file) {
+        const QString canonical = file.canonicalFilePath(); // Empty when there is none.
+        return canonical.isEmpty() ? QDir::cleanPath(file.absoluteFilePath()) : canonical;
+    };
+    return !this->path().isEmpty() && place(QFileInfo(path)) == place(QFileInfo(this->path()));
+}
+
 std::unique_ptr<DictionaryFile> Document::snapshot() const
 {
     return m_file->withRoot(DictionaryCopy::copy(m_history.committed()));
@@ -91,8 +101,7 @@ std::unique_ptr<DictionaryFile> Document::snapshot() const
 
 bool Document::save(const QString &path, DocumentFile::SaveOptions options)
 {
-    const auto same = [this, &path] { return QFileInfo(path) == QFileInfo(this->path()); };
-    if (m_access == Access::ReadOnly && same()) {
+    if (m_access == Access::ReadOnly && isAt(path)) {
         m_error = DocumentFile::Error::ReadOnly;
         m_errorText = tr("It was opened for reading only. Save it under another name.");
         return false;

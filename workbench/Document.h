@@ -60,6 +60,9 @@ public:
     [[nodiscard]] std::unique_ptr<DictionaryFile> snapshot() const;
     /// Saves to \a path, which the dictionary then belongs to. The history stays.
     [[nodiscard]] bool save(const QString &path, DocumentFile::SaveOptions options = {});
+    /// Whether the file at \a path is the one that the dictionary belongs to, by whatever name. A file that
+    /// is not there has only one.
+    [[nodiscard]] bool isAt(const QString &path) const;
     [[nodiscard]] Access access() const { return m_access; }
     /// Whether the file must not be written: it may not, or it was opened for reading only.
     [[nodiscard]] bool isReadOnly() const { return m_access == Access::ReadOnly || m_file->isReadOnly(); }

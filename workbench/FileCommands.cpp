@@ -139,7 +139,7 @@ bool FileCommands::saveAs()
 bool FileCommands::saveTo(const QString &path)
 {
     Document &document = *m_workspace.document;
-    if (QFileInfo(path) != QFileInfo(document.path()) && !mayOverwrite(path))
+    if (!document.isAt(path) && !mayOverwrite(path))
         return false;
     const auto attempt = [&](DocumentFile::SaveOptions options) {
         return document.save(path, options) ? std::nullopt : std::optional(FileDialogs::problemOf(document));

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void undoesAndRedoesStructure();
     void announcesStructureAroundTheChange();
     void savesAndOpens();
+    void savesElsewhereWhatWasReadFromAFileThatIsGone();
+    void knowsItsFileByAnyName();
     void keepsTheHistoryWhenSaving();
     void staysAsItIsWhenOpeningFails();
     void isUnmodifiedAfterWhatWasRestored();
@@ -111,6 +113,35 @@ void TestDocument::savesAndOpens()
     QCOMPARE(other.root()->getVariables()->size(), 1);
     QCOMPARE(other.root()->getVariables()->first()->getLabel(), u"Age"_s);
     QVERIFY(!other.isModified());
+}
+
+void TestDocument::savesElsewhereWhatWasReadFromAFileThatIsGone()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.mvdb"_s);
+    Document document;
+    QVERIFY(document.save(path));
+    QVERIFY(document.open(path, Document::Access::ReadOnly));
+    QVERIFY(QFile::remove(path));
+    QVERIFY(!document.save(path));
+    QCOMPARE(document.error(), DocumentFile::Error::ReadOnly);
+    QVERIFY(document.save(folder.filePath(u"b.mvdb"_s)));
+}
+
+void TestDocument::knowsItsFileByAnyName()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.mvdb"_s);
+    Document document;
+    QVERIFY(!document.isAt({})); // It has none yet.
+    QVERIFY(document.save(path));
+    QVERIFY(QFile::link(path, folder.filePath(u"link.mvdb"_s)));
+    for (const QString &name : {u"a.mvdb"_s, u"./a.mvdb"_s, u"link.mvdb"_s})
+        QVERIFY(document.isAt(folder.filePath(name)));
+    QVERIFY(!document.isAt(folder.filePath(u"b.mvdb"_s)));
+    QVERIFY(QFile::remove(path));
+    QVERIFY(document.isAt(folder.filePath(u"./a.mvdb"_s)));
+    QVERIFY(!document.isAt(folder.filePath(u"b.mvdb"_s)));
 }
 
 void TestDocument::keepsTheHistoryWhenSaving()

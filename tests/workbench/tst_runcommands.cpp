@@ -30,6 +30,8 @@ private Q_SLOTS:
     void stopsWhereUnsavedChangesStay();
     void asksNothingAboutTheOpenDictionary();
     void saysThatTheDictionaryIsMissing();
+    void saysThatTheDictionaryIsMissingAsTheOpenOneIs();
+    void namesADictionaryOfAnotherSystemAsItWasWritten();
     void saysThatTheDictionaryIsUnreadable();
     void asksNothingAboutData_data();
     void asksNothingAboutData();
@@ -174,6 +176,25 @@ void TestRunCommands::saysThatTheDictionaryIsMissing()
     QCOMPARE(box.texts(), QStringList({u"“%1” cannot be opened."_s.arg(path)}));
     QVERIFY(wizard());
     QCOMPARE(root(), u"FARMS"_s);
+}
+
+void TestRunCommands::saysThatTheDictionaryIsMissingAsTheOpenOneIs()
+{
+    const QString open = write(u"farms.mvdb"_s, farms);
+    QVERIFY(m_window->files()->open(open));
+    QVERIFY(QFile::remove(open));
+    const MessageBoxAnswer box({u"OK"_s});
+    m_window->open(run(u"census.mvdb"_s));
+    QCOMPARE(box.shown().size(), 1);
+    QVERIFY(wizard());
+}
+
+void TestRunCommands::namesADictionaryOfAnotherSystemAsItWasWritten()
+{
+    const MessageBoxAnswer box({u"OK"_s});
+    m_window->open(run(uR"(C:\\data\\census.mvdb)"_s));
+    QCOMPARE(box.texts(), QStringList({u"“C:/data/census.mvdb” cannot be opened."_s}));
+    QVERIFY(wizard());
 }
 
 void TestRunCommands::saysThatTheDictionaryIsUnreadable()

@@ -92,7 +92,7 @@ bool RunCommands::mayShow(const RunConfigurationFile &run)
     Widgets::finishEditing(m_workspace.window);
     const QString dictionary = RunDictionary::pathOf(run);
     const Document &document = *m_workspace.document;
-    if (dictionary.isEmpty() || QFileInfo(dictionary) == QFileInfo(document.path()))
+    if (dictionary.isEmpty() || document.isAt(dictionary))
         return true;
     if (!QFileInfo::exists(dictionary)) {
         FileDialogs::showCannotOpen(m_workspace.window, dictionary,

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+using namespace Qt::Literals::StringLiterals;
+
 QString RunDictionary::pathOf(const RunConfigurationFile &run)
 {
     // It may come from a system that separates folders differently.
@@ -15,7 +17,8 @@ QString RunDictionary::pathOf(const RunConfigurationFile &run)
     if (!FileCommands::isDictionary(source))
         return {};
     const QDir folder = QFileInfo(run.path()).absoluteDir();
-    const QString path = QDir::cleanPath(folder.absoluteFilePath(source));
+    const bool foreign = source.startsWith("//"_L1) || source.mid(1, 2) == ":/"_L1;
+    const QString path = foreign ? source : QDir::cleanPath(folder.absoluteFilePath(source));
     const QString beside = folder.absoluteFilePath(source.section(u'/', -1));
     return !QFileInfo::exists(path) && QFileInfo::exists(beside) ? beside : path;
 }
