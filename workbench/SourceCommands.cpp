@@ -51,8 +51,7 @@ bool SourceCommands::openLookups(const QString &path)
 template <typename Reader, typename Show>
 bool SourceCommands::read(const QString &path, Reader reader, Show show, SourceTab *tab)
 {
-    Progress progress(tr("Reading the file…"), m_workspace.window);
-    auto result = reader(path, SourceFiles::options(progress));
+    auto result = SourceFiles::read(path, reader, m_workspace.window);
     if (!result.ok()) {
         SourceFiles::report(m_workspace.window, result.errors);
         return false;

@@ -1,7 +1,6 @@
 #include "workbench/SourceFiles.h"
 
 #include "workbench/PlainMessage.h"
-#include "workbench/Progress.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -51,6 +50,11 @@ QString SourceFiles::choose(QWidget *window, const QString &title, const QString
     if (!path.isEmpty())
         QSettings().setValue(folderKey(), QFileInfo(path).absolutePath());
     return path;
+}
+
+QString SourceFiles::progressText()
+{
+    return Texts::tr("Reading the file…");
 }
 
 SourceOptions SourceFiles::options(Progress &progress)

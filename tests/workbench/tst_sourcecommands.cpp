@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void aSecondFileReplacesTheFirst();
     void listsManyProblemsInTheDetails();
     void showsProblemsAsPlainText();
+    void endsTheProgressBeforeItSaysWhatIsWrong();
     void saysNothingOfWhatWasCancelled();
 
 private:
@@ -205,6 +207,20 @@ void TestSourceCommands::showsProblemsAsPlainText()
     const MessageBoxAnswer boxes({u"OK"_s});
     SourceFiles::report(nullptr, {{u"<b>a.csv"_s, {}, u"Wrong."_s}});
     QCOMPARE(boxes.shown().first().format, Qt::PlainText);
+}
+
+void TestSourceCommands::endsTheProgressBeforeItSaysWhatIsWrong()
+{
+    const QString path = write(u"broken.csv"_s, "a,b\n1\n");
+    bool seen = true;
+    QTimer::singleShot(0, this, [&seen] {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        seen = std::any_of(windows.cbegin(), windows.cend(),
+                           [](const QWidget *window) { return window->objectName() == "progress"_L1; });
+        QApplication::activeModalWidget()->close();
+    });
+    QVERIFY(!m_commands->openCsv(path));
+    QVERIFY(!seen);
 }
 
 void TestSourceCommands::saysNothingOfWhatWasCancelled()

@@ -179,8 +179,7 @@ void AreaSelectionDialog::refresh()
 
 bool AreaSelectionDialog::load(const QString &path)
 {
-    Progress progress(tr("Reading the file…"), this);
-    const SourceAreaUnits result = AreaUnitFile::read(path, SourceFiles::options(progress));
+    const SourceAreaUnits result = SourceFiles::read(path, AreaUnitFile::read, this);
     if (!result.ok()) {
         SourceFiles::report(this, result.errors);
         return false;

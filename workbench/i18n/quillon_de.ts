@@ -583,10 +583,6 @@
         <translation>Ausgewählte Gebiete: %L1 von %L2</translation>
     </message>
     <message>
-        <source>Reading the file…</source>
-        <translation>Die Datei wird gelesen…</translation>
-    </message>
-    <message>
         <source>All areas</source>
         <translation>Alle Gebiete</translation>
     </message>
@@ -3473,13 +3469,13 @@
         <source>Open Lookups</source>
         <translation>Nachschlagetabellen öffnen</translation>
     </message>
+</context>
+<context>
+    <name>SourceFiles</name>
     <message>
         <source>Reading the file…</source>
         <translation>Die Datei wird gelesen…</translation>
     </message>
-</context>
-<context>
-    <name>SourceFiles</name>
     <message>
         <source>Data files (*.%1)</source>
         <translation>Datendateien (*.%1)</translation>

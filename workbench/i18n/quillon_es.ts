@@ -583,10 +583,6 @@
         <translation>Áreas seleccionadas: %L1 de %L2</translation>
     </message>
     <message>
-        <source>Reading the file…</source>
-        <translation>Leyendo el archivo…</translation>
-    </message>
-    <message>
         <source>All areas</source>
         <translation>Todas las áreas</translation>
     </message>
@@ -3473,13 +3469,13 @@
         <source>Open Lookups</source>
         <translation>Abrir tablas de consulta</translation>
     </message>
+</context>
+<context>
+    <name>SourceFiles</name>
     <message>
         <source>Reading the file…</source>
         <translation>Leyendo el archivo…</translation>
     </message>
-</context>
-<context>
-    <name>SourceFiles</name>
     <message>
         <source>Data files (*.%1)</source>
         <translation>Archivos de datos (*.%1)</translation>
