@@ -237,7 +237,7 @@ void MainWindow::saveLayout() const
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_files->mayClose()) {
+    if (!m_sessionEnd->isEnding() && !m_files->mayClose()) {
         event->ignore();
         return;
     }

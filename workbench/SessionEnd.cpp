@@ -3,6 +3,7 @@
 #include "workbench/FileCommands.h"
 #include "workbench/journal/Journal.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QSessionManager>
 #include <QSocketNotifier>
@@ -26,14 +27,24 @@ SessionEnd::SessionEnd(FileCommands *files, Journal *journal, QObject *parent)
     });
     // A session can be saved without ending.
     connect(qGuiApp, &QGuiApplication::saveStateRequest, this, [this] { m_journal->writeNow(); });
+    qGuiApp->installEventFilter(this);
+}
+
+bool SessionEnd::eventFilter(QObject *object, QEvent *event)
+{
+    // The session tells programs to quit once all of them agreed. Nobody else does: a person closes the
+    // window.
+    if (object == qGuiApp && event->type() == QEvent::Quit)
+        m_ending = m_agreed;
+    return QObject::eventFilter(object, event);
 }
 
 bool SessionEnd::prepare(bool mayAsk)
 {
-    const bool agreed = mayAsk && m_files->mayClose();
+    m_agreed = mayAsk && m_files->mayClose();
     // What is not saved now was given up, but only if the session does end: another program may still object.
-    m_journal->setGivenUp(agreed);
-    if (agreed)
+    m_journal->setGivenUp(m_agreed);
+    if (m_agreed)
         return true;
     m_journal->writeNow();
     return !mayAsk;

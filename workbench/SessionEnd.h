@@ -18,6 +18,10 @@ public:
     /// Whether the session may end now. If \a mayAsk, the person is asked as when closing the window;
     /// otherwise unsaved changes stay in the journal.
     [[nodiscard]] bool prepare(bool mayAsk);
+    /// Whether the session is ending as the person agreed to, so that windows close without asking again.
+    [[nodiscard]] bool isEnding() const { return m_ending; }
+
+    [[nodiscard]] bool eventFilter(QObject *object, QEvent *event) override;
 
     /// From now on SIGTERM, SIGINT and SIGHUP end the program in good order, with unsaved changes in the
     /// journal. Does nothing on systems without them. For one object in a program.
@@ -28,4 +32,6 @@ private:
 
     FileCommands *m_files; // Not owned.
     Journal *m_journal; // Not owned.
+    bool m_agreed = false;
+    bool m_ending = false;
 };

@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include <csignal>
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void sessionEndAsksAsClosingDoes_data();
     void sessionEndAsksAsClosingDoes();
     void aSessionThatGoesOnKeepsTheJournal();
+    void whoAgreedToTheEndIsNotAskedAgain();
     void sessionEndKeepsTheJournalUnasked();
     void typedTextIsNotForgotten();
     void aFileThatIsOpenElsewhere_data();
@@ -316,6 +318,32 @@ void TestRecovery::aSessionThatGoesOnKeepsTheJournal()
     QVERIFY(window.sessionEnd()->prepare(true));
     // Another program may still say no.
     QCOMPARE(QDir(JournalFolder::path()).entryList({u"*.journal"_s}).size(), 1);
+}
+
+void TestRecovery::whoAgreedToTheEndIsNotAskedAgain()
+{
+    {
+        MainWindow window;
+        window.show();
+        window.document()->root()->setLabel(u"Mine"_s);
+        window.document()->commit();
+        window.journal()->writeNow();
+        const MessageBoxAnswer box({u"Cancel"_s, u"Discard"_s, u"Cancel"_s});
+        QVERIFY(!window.close()); // As a person does.
+        QCOMPARE(box.shown().size(), 1);
+        QVERIFY(window.sessionEnd()->prepare(true));
+        QVERIFY(!window.close());
+        QCOMPARE(box.shown().size(), 3);
+        QTimer::singleShot(0, qApp, [] { // As the session does.
+            QEvent quit(QEvent::Quit);
+            QCoreApplication::sendEvent(qApp, &quit);
+            QCoreApplication::exit(); // Even if somebody objected.
+        });
+        QApplication::exec();
+        QVERIFY(!window.isVisible());
+        QCOMPARE(box.shown().size(), 3);
+    }
+    QVERIFY(!Recovery::any(JournalFolder::path()));
 }
 
 void TestRecovery::sessionEndKeepsTheJournalUnasked()
