@@ -1,6 +1,7 @@
 #include "documents/DictionaryCopy.h"
 #include "documents/DictionaryEquality.h"
 #include "model/MetadataVariables.h"
+#include "tests/support/Growth.h"
 #include "tests/support/MessageBoxAnswer.h"
 #include "tests/workbench/Bench.h"
 #include "workbench/clipboard/ItemTargets.h"
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void addsLabelsByCode();
     void addsRangesOnce();
     void refusesBoundsThatAreNoNumbers();
+    void takesRefusedRowsBackInProportion();
     void readsNumbersOfTheLanguage();
     void saysWhenThereIsNothing();
 
@@ -326,6 +328,20 @@ void TestPaste::refusesBoundsThatAreNoNumbers()
                           u"Line 3: Minimum \"nan\". This is no whole number."_s,
                           u"Line 4: Minimum \"1.5\". This is no whole number."_s}));
     QCOMPARE(age.getMetadataVariables()->getRange()->size(), 1);
+}
+
+void TestPaste::takesRefusedRowsBackInProportion()
+{
+    const auto refuse = [](int count) {
+        const std::unique_ptr<TDcVariable> variable(makeVariable(u"V"_s));
+        RangeTarget target(variable.get(), {}, {0, 1});
+        const QString text = u"low\thigh\n"_s.repeated(count);
+        const Paste done = Paste::into(target, TabText::parse(text), 0, 0);
+        QCOMPARE(done.report().isEmpty(), false);
+        QCOMPARE(variable->getMetadataVariables()->getRange()->size(), 0);
+    };
+    const double ratio = growth(refuse, 1'000, 8'000);
+    QVERIFY2(ratio < 24, qPrintable(QString::number(ratio))); // 8 in proportion, 64 by the square.
 }
 
 void TestPaste::readsNumbersOfTheLanguage()

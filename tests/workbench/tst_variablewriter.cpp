@@ -1,6 +1,7 @@
 #include "documents/DictionaryCopy.h"
 #include "documents/DictionaryEquality.h"
 #include "tests/documents/RandomDictionary.h"
+#include "tests/support/Growth.h"
 #include "tests/support/Trees.h"
 #include "workbench/operations/Places.h"
 #include "workbench/operations/VariableWriter.h"
@@ -78,6 +79,10 @@ private Q_SLOTS:
     void makesNoReferenceCodeOfAVariableWithoutAName();
     void asksTheModelWhereAnAnswerIsNotCertain_data();
     void asksTheModelWhereAnAnswerIsNotCertain();
+    void asksAgainAboutAGroupThatMayHaveGotFree();
+    void saysWhatWasStoredOtherwise();
+    void clearsManyAliasesInProportion();
+    void asksOnceAboutAGroupThatIsRefused();
 };
 
 void TestVariableWriter::answersAsTheModelDoes()
@@ -171,6 +176,67 @@ void TestVariableWriter::asksTheModelWhereAnAnswerIsNotCertain()
     QCOMPARE(writer.writeText(sex, properties.at(0), u"FIRST"_s), QString());
     QCOMPARE(writer.writeText(sex, properties.at(1), u"SECOND"_s), QString());
     QVERIFY(!writer.writeText(root->getVariables()->last(), properties.at(property), text).isEmpty());
+}
+
+void TestVariableWriter::asksAgainAboutAGroupThatMayHaveGotFree()
+{
+    const QList<VariableProperty> &properties = VariableProperties::all();
+    const std::unique_ptr<TDcEntity> root = makeEntities(u"CENSUS\n");
+    root->addVariables(makeVariable(u"SEX"_s, u"P1"_s));
+    root->addVariables(makeVariable(u"AGE"_s));
+    VariableWriter writer(root.get(), root.get());
+    TDcVariable *sex = root->getVariables()->first();
+    TDcVariable *age = root->getVariables()->last();
+    const QString refused = writer.write(age, properties.at(3), u"P1"_s);
+    QVERIFY(!refused.isEmpty());
+    QCOMPARE(writer.write(sex, properties.at(3), u"P1"_s), refused);
+    QCOMPARE(writer.write(sex, properties.at(1), u"P2"_s), QString());
+    QCOMPARE(writer.write(age, properties.at(3), u"P1"_s), QString());
+}
+
+void TestVariableWriter::saysWhatWasStoredOtherwise()
+{
+    const QList<VariableProperty> &properties = VariableProperties::all();
+    const auto start =
+        std::find_if(properties.cbegin(), properties.cend(), [](const VariableProperty &property) {
+            return QLatin1StringView(property.name) == "Start"_L1;
+        });
+    QVERIFY(start != properties.cend());
+    const std::unique_ptr<TDcEntity> root = makeEntities(u"CENSUS\n");
+    root->addVariables(makeVariable(u"SEX"_s));
+    VariableWriter writer(root.get(), root.get());
+    TDcVariable *sex = root->getVariables()->first();
+    QCOMPARE(writer.writeText(sex, *start, u"7"_s), QString());
+    QCOMPARE(writer.writeText(sex, *start, u"0"_s), u"It was stored as \"1\"."_s);
+    QCOMPARE(start->get(*sex).toInt(), 1);
+}
+
+void TestVariableWriter::clearsManyAliasesInProportion()
+{
+    const auto clear = [](int count) {
+        const std::unique_ptr<TDcEntity> root = makeEntities(u"CENSUS\n");
+        for (int i = 0; i < count; ++i)
+            root->addVariables(makeVariable(u"V%1"_s.arg(i), u"A%1"_s.arg(i)));
+        VariableWriter writer(root.get(), root.get());
+        for (TDcVariable *variable : std::as_const(*root->getVariables()))
+            (void)writer.write(variable, VariableProperties::all().at(1), QString());
+    };
+    const double ratio = growth(clear, 500, 4'000);
+    QVERIFY2(ratio < 24, qPrintable(QString::number(ratio))); // 8 in proportion, 64 by the square.
+}
+
+void TestVariableWriter::asksOnceAboutAGroupThatIsRefused()
+{
+    const std::unique_ptr<TDcEntity> root = makeEntities(u"CENSUS\n");
+    for (int i = 0; i < 2'000; ++i)
+        root->addVariables(makeVariable(u"V%1"_s.arg(i)));
+    const auto write = [&root](int count) {
+        VariableWriter writer(root.get(), root.get());
+        for (int i = 0; i < count; ++i)
+            (void)writer.write(root->getVariables()->at(i), VariableProperties::all().at(3), u"CENSUS"_s);
+    };
+    const double ratio = growth(write, 20, 1'000);
+    QVERIFY2(ratio < 10, qPrintable(QString::number(ratio))); // 50 if it asked each time.
 }
 
 QTEST_MAIN(TestVariableWriter)

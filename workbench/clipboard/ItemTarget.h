@@ -47,11 +47,15 @@ public:
         return {};
     }
 
-    void discard(int row) override
+    void discard(int row) override { m_discarded.append(std::exchange(m_items[row], nullptr)); }
+
+    void finish() override
     {
-        m_model.reset();
+        if (m_discarded.isEmpty())
+            return;
+        m_model.reset(); // It must not know items that are gone.
         m_modelRows.clear();
-        removeItem(std::exchange(m_items[row], nullptr));
+        removeItems(std::exchange(m_discarded, {}));
     }
 
     [[nodiscard]] Item *item(int row) const { return m_items.at(row); }
@@ -67,7 +71,8 @@ protected:
 
     [[nodiscard]] virtual std::unique_ptr<QAbstractItemModel> createModel() const = 0;
     [[nodiscard]] virtual Item *addItem() = 0;
-    virtual void removeItem(Item *item) = 0;
+    /// Deletes \a items.
+    virtual void removeItems(const QList<Item *> &items) = 0;
     /// What the model is to store for \a text in \a column of the model; invalid for nothing, with \a why if
     /// that is a refusal.
     [[nodiscard]] virtual QVariant check(int column, const QString &text, QString *why) const = 0;
@@ -75,6 +80,7 @@ protected:
     QList<Item *> m_items; // By row; owned by the variable. Null once discarded.
 
 private:
+    QList<Item *> m_discarded; // Still the variable's until all cells are stored.
     QList<int> m_columns;
     QList<Column> m_titles;
     QList<int> m_keys;

@@ -52,9 +52,9 @@ ValueLabelElement *ValueLabelTarget::addItem()
     return m_variable->getValueLabelElementList()->last();
 }
 
-void ValueLabelTarget::removeItem(ValueLabelElement *item)
+void ValueLabelTarget::removeItems(const QList<ValueLabelElement *> &items)
 {
-    ListEdits::remove(*m_variable->getValueLabelElementList(), {item});
+    ListEdits::remove(*m_variable->getValueLabelElementList(), items);
 }
 
 QVariant ValueLabelTarget::check(int /*column*/, const QString &text, QString * /*why*/) const
@@ -104,9 +104,9 @@ Range *RangeTarget::addItem()
     return m_variable->getMetadataVariables()->getRange()->last();
 }
 
-void RangeTarget::removeItem(Range *item)
+void RangeTarget::removeItems(const QList<Range *> &items)
 {
-    ListEdits::remove(*m_variable->getMetadataVariables()->getRange(), {item});
+    ListEdits::remove(*m_variable->getMetadataVariables()->getRange(), items);
 }
 
 QVariant RangeTarget::check(int /*column*/, const QString &text, QString *why) const

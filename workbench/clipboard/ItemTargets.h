@@ -28,7 +28,7 @@ public:
 protected:
     [[nodiscard]] std::unique_ptr<QAbstractItemModel> createModel() const override;
     [[nodiscard]] ValueLabelElement *addItem() override;
-    void removeItem(ValueLabelElement *item) override;
+    void removeItems(const QList<ValueLabelElement *> &items) override;
     [[nodiscard]] QVariant check(int column, const QString &text, QString *why) const override;
 
 private:
@@ -52,7 +52,7 @@ public:
 protected:
     [[nodiscard]] std::unique_ptr<QAbstractItemModel> createModel() const override;
     [[nodiscard]] Range *addItem() override;
-    void removeItem(Range *item) override;
+    void removeItems(const QList<Range *> &items) override;
     [[nodiscard]] QVariant check(int column, const QString &text, QString *why) const override;
 
 private:

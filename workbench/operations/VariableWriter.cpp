@@ -53,7 +53,8 @@ VariableWriter::VariableWriter(TDcEntity *root, TDcEntity *entity)
 
 void VariableWriter::remember(const QString &name)
 {
-    m_taken.insert(folded(name));
+    if (!name.isEmpty()) // Any number of aliases may be.
+        m_taken.insert(folded(name));
 }
 
 /// Whether the model would store \a text without a question.
@@ -76,10 +77,16 @@ QString VariableWriter::write(TDcVariable *variable, const VariableProperty &pro
     // What stays as it is breaks no rule, even if it would not be accepted anew.
     if (property.get(*variable) == value)
         return {};
+    const auto asStored = [&] {
+        const QVariant now = property.get(*variable);
+        return now == value ? QString() : tr("It was stored as \"%1\".").arg(now.toString());
+    };
     if (property.column < 0) {
         property.set(*variable, value);
-        return {};
+        return asStored();
     }
+    if (property.column == Group && m_refusedGroups.contains(value.toString()))
+        return m_refusedGroups.value(value.toString());
     const bool certain = isCertain(*variable, property.column, value.toString());
     const bool nameless = property.column == Name && variable->getName().trimmed().isEmpty();
     const QString code = m_entity->getRefCode();
@@ -91,11 +98,14 @@ QString VariableWriter::write(TDcVariable *variable, const VariableProperty &pro
     if (nameless)
         m_entity->setRefCode(code); // The model takes two empty names for one.
     if (stored) {
-        if (property.column == Name || property.column == Alias)
+        if (property.column == Name || property.column == Alias) {
             remember(property.get(*variable).toString());
-        const QVariant now = property.get(*variable);
-        return now == value ? QString() : tr("It was stored as \"%1\".").arg(now.toString());
+            m_refusedGroups.clear(); // One of them may have got free.
+        }
+        return asStored();
     }
+    if (property.column == Group)
+        m_refusedGroups.insert(value.toString(), said.join(u' '));
     if (!said.isEmpty())
         return said.join(u' ');
     // The model says nothing about a name that is empty, or the same but for blanks around it.

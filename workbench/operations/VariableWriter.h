@@ -16,7 +16,8 @@ class TDcVariable;
 /// writer is made. A reference code follows its variable's new name; a variable without a name is none.
 ///
 /// The model gathers all names of the dictionary at each edit. It is not asked where its answer is certain,
-/// so that many edits cost no more than in proportion to their number.
+/// nor once more about a group, which it refuses whatever the variable; so many edits cost no more than in
+/// proportion to their number.
 class VariableWriter
 {
     Q_DECLARE_TR_FUNCTIONS(VariableWriter)
@@ -44,5 +45,6 @@ private:
     VariableDiccionaryModel m_model;
     QHash<const TDcVariable *, int> m_rows;
     QSet<QString> m_taken; // Names that may clash, as they are compared; those that are gone too.
+    QHash<QString, QString> m_refusedGroups; // And what was said.
     CollectedMessages m_messages;
 };
