@@ -18,6 +18,7 @@ class TestNewNames : public QObject
 private Q_SLOTS:
     void givesEachNameOnce();
     void looksAtNeitherCaseNorBlanksAround();
+    void numbersANameWithoutTheBlanksAround();
     void leavesEmptyNamesEmpty();
     void knowsWhatIsTakenForEntities();
     void knowsWhatIsTakenForVariables();
@@ -57,12 +58,20 @@ void TestNewNames::givesEachNameOnce()
     QCOMPARE(names.take(u"AGE"_s), u"AGE_7"_s);
 }
 
+void TestNewNames::numbersANameWithoutTheBlanksAround()
+{
+    NewNames names({u"AGE"_s});
+    QCOMPARE(names.take(u" AGE "_s), u"AGE_2"_s);
+    QCOMPARE(names.take(u"SEX "_s), u"SEX "_s); // As a file may have it.
+    QCOMPARE(names.take(u"SEX "_s), u"SEX_2"_s);
+}
+
 void TestNewNames::looksAtNeitherCaseNorBlanksAround()
 {
     NewNames names({u" age"_s});
-    QCOMPARE(names.take(u"Age "_s), u"Age _2"_s);
-    QCOMPARE(names.take(u"AGE"_s), u"AGE_2"_s);
-    QCOMPARE(names.take(u"age"_s), u"age_3"_s);
+    QCOMPARE(names.take(u"Age "_s), u"Age_2"_s);
+    QCOMPARE(names.take(u"AGE"_s), u"AGE_3"_s);
+    QCOMPARE(names.take(u"age"_s), u"age_4"_s);
 }
 
 void TestNewNames::leavesEmptyNamesEmpty()

@@ -49,10 +49,11 @@ QString NewNames::take(const QString &base)
         return base;
     // What was once taken stays so, and need not be tried again.
     int &number = m_last[folded(base)];
-    QString name = number == 0 ? base : u"%1_%2"_s.arg(base, QString::number(number));
+    const QString stem = base.trimmed(); // There may be blanks around a name, but not within it.
+    QString name = number == 0 ? base : u"%1_%2"_s.arg(stem, QString::number(number));
     while (!isFree(name)) {
         number = std::max(number + 1, 2);
-        name = u"%1_%2"_s.arg(base, QString::number(number));
+        name = u"%1_%2"_s.arg(stem, QString::number(number));
     }
     m_taken.insert(folded(name));
     return name;
