@@ -11,6 +11,9 @@ bool DisplayServer::find(int count, char *const *arguments)
     const auto names = [](QByteArrayView argument) {
         return argument.endsWith("-platform") || argument.endsWith("-display");
     };
+#if !defined(Q_OS_UNIX) || defined(Q_OS_DARWIN)
+    return true;
+#endif
     if (isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM")
         || std::any_of(arguments, arguments + count, names))
         return true;
