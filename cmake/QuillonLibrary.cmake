@@ -39,8 +39,12 @@ endfunction()
 # gets an X server of its own, whose pointer and keyboard it can use.
 function(quillon_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "SOURCE_TREE;X_DISPLAY" "" "SOURCES;LINKS")
-    add_executable(${name} ${name}.cpp ${ARG_SOURCES})
-    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
+    # Only the test itself is for moc. AUTOMOC would scan and compile something more for each of the programs.
+    set(moc "${CMAKE_CURRENT_BINARY_DIR}/${name}.moc")
+    qt_generate_moc(${name}.cpp "${moc}" TARGET ${name})
+    add_executable(${name} ${name}.cpp "${moc}" ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_BINARY_DIR}")
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} quillon_test_support Qt6::Test)
     target_precompile_headers(${name} REUSE_FROM quillon_test_headers)
     target_compile_options(${name} PRIVATE -fpch-preprocess) # Lets the compiler cache see through them.
