@@ -34,6 +34,9 @@ private Q_SLOTS:
     void changesAllMembers();
     void editsOnceInOneStep();
     void addsMovesAndRemoves();
+    void typesIntoTheAddedLabel();
+    void editsTheCurrentLabelByKey_data();
+    void editsTheCurrentLabelByKey();
     void takesEditsBack();
     void entersWhatIsBeingTyped_data();
     void entersWhatIsBeingTyped();
@@ -196,6 +199,52 @@ void TestLabelSets::addsMovesAndRemoves()
     button(dialog, u"Change in 2 Variables"_s)->click();
     QCOMPARE(labels(u"SEX"_s), u"3=C 1=A 4="_s);
     QCOMPARE(labels(u"AGE"_s), u"3=C 1=A 4="_s);
+}
+
+void TestLabelSets::typesIntoTheAddedLabel()
+{
+    setLabels(u"SEX"_s, u"1=A 2=B"_s);
+    setLabels(u"AGE"_s, u"1=A 2=B"_s);
+    LabelSetsDialog dialog(m_bench->workspace());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    const auto *view = dialog.findChild<QTableView *>();
+    button(dialog, u"Add"_s)->click();
+    auto *editor = view->findChild<QLineEdit *>();
+    QVERIFY(editor);
+    QCOMPARE(view->currentIndex().model(), view->model());
+    QVERIFY(view->viewport()->rect().contains(view->visualRect(view->currentIndex())));
+    QTest::keyClicks(editor, u"7"_s);
+    button(dialog, u"Change in 2 Variables"_s)->click();
+    QCOMPARE(labels(u"AGE"_s), u"1=A 2=B 7="_s);
+}
+
+void TestLabelSets::editsTheCurrentLabelByKey_data()
+{
+    QTest::addColumn<QString>("pressed");
+    QTest::addRow("opened") << QString();
+    for (const QString &text :
+         {u"Remove"_s, u"Move Up"_s, u"Move Down"_s, u"Reset"_s, u"Change in 2 Variables"_s})
+        QTest::addRow("%s", qPrintable(text)) << text;
+}
+
+void TestLabelSets::editsTheCurrentLabelByKey()
+{
+    QFETCH(const QString, pressed);
+    setLabels(u"SEX"_s, u"1=A 2=B 3=C"_s);
+    setLabels(u"AGE"_s, u"1=A 2=B 3=C"_s);
+    LabelSetsDialog dialog(m_bench->workspace());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *view = dialog.findChild<QTableView *>();
+    if (!pressed.isEmpty()) {
+        QVERIFY(view->model()->setData(view->model()->index(0, 1), u"One"_s));
+        view->setCurrentIndex(view->model()->index(1, 0));
+        button(dialog, pressed)->click();
+    }
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_F2);
+    QVERIFY(view->findChild<QLineEdit *>());
 }
 
 void TestLabelSets::takesEditsBack()

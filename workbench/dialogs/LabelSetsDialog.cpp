@@ -193,8 +193,8 @@ void LabelSetsDialog::showLabels(int current)
     connect(m_model, &QAbstractItemModel::dataChanged, this, &LabelSetsDialog::updateButtons);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &LabelSetsDialog::updateButtons);
-    if (m_model->rowCount() > 0)
-        m_view->setCurrentIndex(m_model->index(qBound(0, current, m_model->rowCount() - 1), 0));
+    if (m_titled->rowCount() > 0)
+        m_view->setCurrentIndex(m_titled->index(qBound(0, current, m_titled->rowCount() - 1), 0));
     updateButtons();
 }
 
