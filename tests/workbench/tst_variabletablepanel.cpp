@@ -1,6 +1,7 @@
 #include "model/OwnedList.h"
 #include "model/TDcSourceField.h"
 #include "models/DatasetPropertiesFieldsModel.h"
+#include "tests/support/Growth.h"
 #include "tests/support/MessageBoxAnswer.h"
 #include "tests/workbench/Bench.h"
 #include "workbench/panels/VariableTablePanel.h"
@@ -9,6 +10,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
 
@@ -40,6 +42,11 @@ private Q_SLOTS:
     void showsWhatSomebodyLeadsToThoughAFilterHidesIt();
     void keepsTheFilterForAnotherEntity();
     void goesOnWithWhatTheFilterShows();
+    void goesOnWhenAnEditTakesTheVariableOutOfTheFilter_data();
+    void goesOnWhenAnEditTakesTheVariableOutOfTheFilter();
+    void leavesNothingSelectedWithoutAFilter();
+    void takesWhatAFilterLeavesAtOnce();
+    void filtersAsQuicklyWhateverIsSelected();
     void doesNotMoveWhileFiltered();
     void selectsNeighboursAsOneRange();
     void staysWhereItIsWhenAnImportIsRefused();
@@ -341,6 +348,103 @@ void TestVariableTablePanel::goesOnWithWhatTheFilterShows()
     QCOMPARE(selected(), QStringList({u"AGE"_s}));
     QCOMPARE(m_bench->selection.variable()->getName(), u"AGE"_s);
     QVERIFY(m_panel->view()->currentIndex().isValid());
+}
+
+void TestVariableTablePanel::goesOnWhenAnEditTakesTheVariableOutOfTheFilter_data()
+{
+    QTest::addColumn<bool>("inPlace");
+    QTest::addRow("in the table") << true;
+    QTest::addRow("elsewhere") << false;
+}
+
+void TestVariableTablePanel::goesOnWhenAnEditTakesTheVariableOutOfTheFilter()
+{
+    QFETCH(const bool, inPlace);
+    QTableView *view = m_panel->view();
+    const auto *count = m_panel->findChild<QLabel *>();
+    m_panel->filterField()->setText(u"age"_s);
+    m_bench->selection.select(u"PERSON/AGE"_s);
+    TDcVariable *age = m_bench->selection.variable();
+    age->setLabel(QString());
+    m_bench->document.commit();
+    if (inPlace) {
+        QVERIFY(view->model()->setData(view->currentIndex().siblingAtColumn(0), u"BIRTH"_s));
+    } else {
+        age->setName(u"BIRTH"_s);
+        m_bench->document.commit();
+    }
+    QCOMPARE(shown(), QStringList({u"WAGE"_s}));
+    QCOMPARE(selected(), QStringList({u"WAGE"_s}));
+    QVERIFY(m_bench->selection.variable());
+    QCOMPARE(m_bench->selection.variable()->getName(), u"WAGE"_s);
+    QVERIFY(m_bench->actions[ActionId::VariableRemove]->isEnabled());
+    QCOMPARE(count->text(), u"Variables: 1 of 3"_s);
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(shown(), QStringList({u"AGE"_s, u"WAGE"_s}));
+    QCOMPARE(count->text(), u"Variables: 2 of 3"_s);
+    m_bench->document.undoStack()->redo();
+    QCOMPARE(count->text(), u"Variables: 1 of 3"_s);
+}
+
+void TestVariableTablePanel::leavesNothingSelectedWithoutAFilter()
+{
+    m_panel->view()->sortByColumn(0, Qt::AscendingOrder);
+    m_panel->view()->clearSelection();
+    m_bench->entity(u"DEATH"_s)->setLabel(u"Deaths"_s);
+    m_bench->document.commit();
+    QCOMPARE(selected(), QStringList());
+    QVERIFY(!m_bench->selection.variable());
+}
+
+void TestVariableTablePanel::takesWhatAFilterLeavesAtOnce()
+{
+    // It takes rows away in as many steps as there are gaps. With very many, the window would freeze if each
+    // of them were followed.
+    TDcEntity *person = m_bench->selection.entity();
+    m_bench->document.edit(u"filling"_s, [person] {
+        for (int number = 0; number < 300; ++number)
+            person->addVariables(makeVariable((number % 2 == 0 ? u"EVEN%1"_s : u"ODD%1"_s).arg(number)));
+    });
+    m_panel->view()->selectAll();
+    const QList<TDcVariable *> all = m_bench->selection.variables();
+    QCOMPARE(all.size(), 303);
+    const QSignalSpy followed(&m_bench->selection, &Selection::variablesChanged);
+    m_panel->filterField()->setText(u"even"_s);
+    QCOMPARE(followed.count(), 1);
+    QCOMPARE(m_bench->selection.variables().size(), 150);
+    QCOMPARE(selected().size(), 150);
+
+    for (int number = 3; number < 303; ++number) {
+        if (number % 4 == 3)
+            all.at(number)->setName(u"N%1"_s.arg(number));
+    }
+    m_bench->document.commit();
+    QCOMPARE(followed.count(), 2);
+    QCOMPARE(m_bench->selection.variables().size(), 75);
+    m_bench->document.undoStack()->undo();
+    QCOMPARE(m_panel->findChild<QLabel *>()->text(), u"Variables: 150 of 303"_s);
+    m_bench->document.undoStack()->redo();
+    QCOMPARE(m_bench->selection.variables().size(), 75);
+    QVERIFY(followed.count() < 10);
+}
+
+void TestVariableTablePanel::filtersAsQuicklyWhateverIsSelected()
+{
+    TDcEntity *person = m_bench->selection.entity();
+    m_bench->document.edit(u"filling"_s, [person] {
+        for (int number = 0; number < 2000; ++number)
+            person->addVariables(makeVariable((number % 2 == 0 ? u"EVEN%1"_s : u"ODD%1"_s).arg(number)));
+    });
+    const auto filter = [this](int all) {
+        m_panel->filterField()->clear();
+        if (all)
+            m_panel->view()->selectAll();
+        else
+            m_panel->view()->selectRow(0);
+        m_panel->filterField()->setText(u"even"_s);
+    };
+    // 30 when rows go while they are selected, hundreds when each gap is followed.
+    QVERIFY(growth(filter, false, true) < 8);
 }
 
 void TestVariableTablePanel::doesNotMoveWhileFiltered()

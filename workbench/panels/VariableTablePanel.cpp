@@ -54,20 +54,27 @@ VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *pare
     connect(m_filter, &QLineEdit::textChanged, this, &VariableTablePanel::setFilter);
     connect(workspace.selection, &Selection::entityChanged, this, &VariableTablePanel::showEntity);
     connect(workspace.selection, &Selection::variablesChanged, this, &VariableTablePanel::showSelection);
-    connect(workspace.document, &Document::contentChanged, this, [this] {
-        // What the person sees is painted anew; order and filter are worked out again only where there are
-        // any.
-        const bool arranged = m_proxy->sortColumn() >= 0 || isFiltered();
-        if (m_model && m_model->rowCount() > 0 && arranged && !m_committing)
-            Q_EMIT m_model->dataChanged(m_model->index(0, 0), m_model->index(m_model->rowCount() - 1, 4));
-        m_view->viewport()->update();
-        updateActions();
-    });
+    connect(workspace.document, &Document::contentChanged, this, &VariableTablePanel::refresh);
     // The proxy's, not the model's: the view has the new rows by then.
     connect(m_proxy, &QAbstractItemModel::modelReset, this, &VariableTablePanel::takeImport);
     connectActions();
     showEntity(workspace.selection->entity());
     showSelection();
+}
+
+void VariableTablePanel::refresh()
+{
+    // What the person sees is painted anew; order and filter are worked out again only where there are any.
+    const bool arranged = m_proxy->sortColumn() >= 0 || isFiltered();
+    if (m_model && m_model->rowCount() > 0 && arranged && !m_committing)
+        arrange([this] {
+            Q_EMIT m_model->dataChanged(m_model->index(0, 0), m_model->index(m_model->rowCount() - 1, 4));
+        });
+    m_view->viewport()->update();
+    if (isFiltered())
+        goOnWithWhatIsShown();
+    else
+        updateActions();
 }
 
 void VariableTablePanel::showEntity(TDcEntity *entity)
@@ -199,6 +206,14 @@ void VariableTablePanel::select(const QList<int> &rows, int currentRow)
 {
     const int column = qMax(0, m_view->currentIndex().column());
     const QModelIndex current = m_proxy->index(currentRow, column);
+    m_view->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    selectRows(rows);
+    if (current.isValid())
+        m_view->scrollTo(current);
+}
+
+void VariableTablePanel::selectRows(const QList<int> &rows)
+{
     // Neighbours make one range: there may be very many of them.
     QItemSelection selection;
     for (auto first = rows.cbegin(); first != rows.cend();) {
@@ -208,11 +223,8 @@ void VariableTablePanel::select(const QList<int> &rows, int currentRow)
         selection.append({m_proxy->index(*first, 0), m_proxy->index(*std::prev(end), 0)});
         first = end;
     }
-    m_view->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     m_view->selectionModel()->select(selection,
                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    if (current.isValid())
-        m_view->scrollTo(current);
 }
 
 void VariableTablePanel::takeSelection()
@@ -225,11 +237,15 @@ void VariableTablePanel::takeSelection()
 
 void VariableTablePanel::adoptSelection()
 {
+    // Range by range: asked for its rows, the selection looks at all its ranges for each of them.
     QList<int> rows;
-    const QModelIndexList selected = m_view->selectionModel()->selectedRows();
-    std::transform(selected.cbegin(), selected.cend(), std::back_inserter(rows),
-                   [this](const QModelIndex &index) { return m_proxy->mapToSource(index).row(); });
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(m_proxy->mapToSource(m_proxy->index(row, 0)).row());
+    }
     std::sort(rows.begin(), rows.end());
+    rows.resize(std::distance(rows.begin(), std::unique(rows.begin(), rows.end())));
     QList<TDcVariable *> variables;
     std::transform(rows.cbegin(), rows.cend(), std::back_inserter(variables), [this](int row) {
         return static_cast<TDcVariable *>(m_model->index(row, 0).internalPointer());
@@ -243,14 +259,32 @@ void VariableTablePanel::adoptSelection()
 
 void VariableTablePanel::setFilter(const QString &text)
 {
-    Widgets::filterBy(m_proxy, text);
+    arrange([this, &text] { Widgets::filterBy(m_proxy, text); });
     m_view->setEmptyText(
         isFiltered() ? tr("No variable matches the filter.")
                      : tr("No variables to show. Add one, or drag fields here from the sources below."));
+    goOnWithWhatIsShown();
+}
+
+void VariableTablePanel::arrange(const std::function<void()> &work)
+{
+    // Rows come and go in as many steps as there are gaps between them, and each step works on all that is
+    // selected. Of very many rows nothing must be selected meanwhile.
+    const QScopedValueRollback following(m_showing, true);
+    m_view->selectionModel()->clearSelection();
+    work();
+    selectRows(shownRows(m_workspace.selection->variables()));
+}
+
+void VariableTablePanel::goOnWithWhatIsShown()
+{
     // What was selected may be out of sight now. Somebody who types and then presses Tab works on what is
     // left.
-    if (!m_view->selectionModel()->hasSelection() && m_proxy->rowCount() > 0)
+    if (!m_view->selectionModel()->hasSelection() && m_proxy->rowCount() > 0) {
+        const QScopedValueRollback following(m_showing, true);
         m_view->selectRow(qMax(0, m_view->currentIndex().row()));
+    }
+    takeSelection();
     updateActions();
     updateCount();
 }

@@ -7,6 +7,7 @@
 
 #include <QTableView>
 
+#include <functional>
 #include <memory>
 
 class QLabel;
@@ -38,11 +39,16 @@ private:
     void connectModel();
     void takeImport();
     void arrangeColumns();
+    void refresh();
     void showEntity(TDcEntity *entity);
     void showSelection();
     void takeSelection();
     void adoptSelection();
     void setFilter(const QString &text);
+    /// Does \a work, which filters or sorts anew. What is still shown stays selected.
+    void arrange(const std::function<void()> &work);
+    /// Selects something in what the filter leaves.
+    void goOnWithWhatIsShown();
     void updateCount();
     void updateActions();
 
@@ -59,6 +65,7 @@ private:
     [[nodiscard]] int shownRowNear(const TDcVariable *variable) const;
     /// Selects \a rows of the view; the one without a current row is -1.
     void select(const QList<int> &rows, int currentRow);
+    void selectRows(const QList<int> &rows);
 
     Workspace m_workspace;
     QLineEdit *m_filter;
