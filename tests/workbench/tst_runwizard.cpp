@@ -51,6 +51,7 @@ private Q_SLOTS:
     void selectsAllThatIsShown();
     void switchesAllSelectedRows();
     void sortsTheLastStep();
+    void goesOnOfferingWhatIsNotDownloaded();
     void splitsByVariablesWithARoleToo();
     void speaksOfWhatTheDictionaryDoesNotHave();
     void refusesADamagedFile_data();
@@ -438,6 +439,24 @@ void TestRunWizard::sortsTheLastStep()
                      "variables": ["WAGE", "AGE", "ID"]}]})"));
     goTo(u"runDownPage"_s);
     QCOMPARE(shown(), QStringList({u"AGE*"_s, u"WAGE*"_s}));
+}
+
+void TestRunWizard::goesOnOfferingWhatIsNotDownloaded()
+{
+    QVERIFY(start(R"({"database": {"name": "x"}, "entities": [{"name": "HOUSEHOLD", "allVariables": true},
+                     {"name": "PERSON", "variables": ["WAGE", "AGE"]}]})"));
+    goTo(u"runDownPage"_s);
+    auto *entities = find<QListWidget>();
+    entities->setCurrentRow(1);
+    find<QTableView>()->selectRow(0);
+    QTest::keyClick(find<QTableView>(), Qt::Key_Space);
+    QCOMPARE(shown(), QStringList({u"AGE"_s, u"WAGE*"_s}));
+    entities->setCurrentRow(0);
+    entities->setCurrentRow(1);
+    QCOMPARE(entities->currentItem()->text(), u"PERSON (1 of 2)"_s);
+    QCOMPARE(shown(), QStringList({u"AGE"_s, u"WAGE*"_s}));
+    button(u"Tick Shown"_s)->click();
+    QVERIFY(isChecked(u"AGE"_s));
 }
 
 void TestRunWizard::splitsByVariablesWithARoleToo()

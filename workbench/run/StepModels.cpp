@@ -13,23 +13,25 @@
 
 using Step = VariablesPage::Step;
 
-CheckListModel *StepModels::make(Step step, TDcEntity *entity, QObject *parent)
+CheckListModel *StepModels::make(Step step, TDcEntity *entity, QList<TDcVariable *> variables,
+                                 QObject *parent)
 {
     switch (step) {
     case Step::Choose:
-        return new VariableModel(parent, entity, entity->getVariables());
+        return new VariableModel(parent, entity, &variables);
     case Step::Split:
-        return new VariableModelSplitStep3(parent, entity, entity->getVariables());
+        return new VariableModelSplitStep3(parent, entity, &variables);
     case Step::Down:
         break;
     }
-    QList<TDcVariable *> taken = RunDraft::checkedVariables(entity);
-    return new VariableModelDownStep4(parent, entity, &taken);
+    return new VariableModelDownStep4(parent, entity, &variables);
 }
 
 QList<TDcVariable *> StepModels::offered(Step step, TDcEntity *entity)
 {
-    const std::unique_ptr<CheckListModel> model(make(step, entity, nullptr));
+    const std::unique_ptr<CheckListModel> model(
+        make(step, entity, step == Step::Down ? RunDraft::checkedVariables(entity) : *entity->getVariables(),
+             nullptr));
     QList<TDcVariable *> variables;
     for (int row = 0; row < model->rowCount(); ++row)
         variables.append(static_cast<TDcVariable *>(model->index(row, 0).internalPointer()));

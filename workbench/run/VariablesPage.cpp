@@ -167,7 +167,7 @@ void VariablesPage::showEntity()
     m_all->setEnabled(entity);
     if (!entity)
         return;
-    m_model = StepModels::make(m_step, entity, this);
+    m_model = StepModels::make(m_step, entity, m_offered.value(entity), this);
     m_checkable->setSourceModel(m_model);
     connect(m_model, &QAbstractItemModel::dataChanged, this, &VariablesPage::followChecks);
     arrangeColumns();
