@@ -27,6 +27,9 @@ private Q_SLOTS:
     void makesALayoutForTheFirstRange();
     void editsWithTheSpinBoxOfTheType_data();
     void editsWithTheSpinBoxOfTheType();
+    void keepsABoundThatIsOnlyLookedAt_data();
+    void keepsABoundThatIsOnlyLookedAt();
+    void storesNothingForANewRangeLeftAtZero();
     void showsEveryDigit_data();
     void showsEveryDigit();
     void followsAChangeOfTheType();
@@ -162,6 +165,46 @@ void TestRangesPanel::editsWithTheSpinBoxOfTheType()
     m_bench->document.undoStack()->undo();
     QCOMPARE(held(), QStringList({u"0..1"_s}));
     QCOMPARE(shown(), QStringList({u"0..1"_s}));
+}
+
+void TestRangesPanel::keepsABoundThatIsOnlyLookedAt_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<double>("bound");
+    QTest::addColumn<int>("key");
+    QTest::addRow("more decimals") << Constants::typeReal << 0.125 << int(Qt::Key_Return);
+    QTest::addRow("more decimals, on to the next") << Constants::typeReal << 0.125 << int(Qt::Key_Tab);
+    QTest::addRow("too large") << Constants::typeReal << 1e13 << int(Qt::Key_Return);
+    QTest::addRow("a fraction of a whole number") << Constants::typeInteger << 2.5 << int(Qt::Key_Return);
+    QTest::addRow("too large a whole number") << Constants::typeInteger << 1e10 << int(Qt::Key_Return);
+}
+
+void TestRangesPanel::keepsABoundThatIsOnlyLookedAt()
+{
+    QFETCH(const QString, type);
+    QFETCH(const double, bound);
+    QFETCH(const int, key);
+    TDcVariable *age = m_bench->variable(u"AGE"_s);
+    age->setVarType(type);
+    fill({bound});
+    QTableView *view = m_panel->view();
+    view->setCurrentIndex(view->model()->index(0, 1));
+    QTest::keyClick(view, Qt::Key_F2);
+    QVERIFY(editor());
+    QTest::keyClick(editor(), Qt::Key(key));
+    QTRY_VERIFY(!editor() || !editor()->isVisible() || view->currentIndex().column() != 1);
+    QCOMPARE(age->getMetadataVariables()->getRange()->first()->getRangeMax(), bound);
+    QCOMPARE(m_bench->document.undoStack()->count(), 0);
+}
+
+void TestRangesPanel::storesNothingForANewRangeLeftAtZero()
+{
+    QTest::keyClick(m_panel->view(), Qt::Key_Insert);
+    QVERIFY(editor());
+    QTest::keyClick(editor(), Qt::Key_Return);
+    QTRY_VERIFY(!editor() || !editor()->isVisible());
+    QCOMPARE(held(), QStringList({u"0..0"_s}));
+    QCOMPARE(m_bench->document.undoStack()->count(), 1);
 }
 
 void TestRangesPanel::showsEveryDigit_data()

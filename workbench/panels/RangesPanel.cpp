@@ -14,7 +14,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-/// Shows bounds as the spin boxes edit them. By itself a view rounds to six digits.
+/// Shows bounds as the spin boxes edit them: by itself a view rounds to six digits. A spin box may round too,
+/// or stop at its limits; what nobody changed in it is not stored.
 class BoundDelegate : public VarRangeDelegate
 {
 public:
@@ -26,6 +27,22 @@ public:
         plain.setNumberOptions(QLocale::OmitGroupSeparator);
         return plain.toString(value.toDouble(), 'f', QLocale::FloatingPointShortest);
     }
+
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override
+    {
+        VarRangeDelegate::setEditorData(editor, index);
+        editor->setProperty(shownValue, editor->property(spinBoxValue));
+    }
+
+    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override
+    {
+        if (editor->property(spinBoxValue) != editor->property(shownValue))
+            VarRangeDelegate::setModelData(editor, model, index);
+    }
+
+private:
+    static constexpr auto spinBoxValue = "value";
+    static constexpr auto shownValue = "shownValue"; // As the spin box showed it first.
 };
 } // namespace
 
