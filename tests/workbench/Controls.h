@@ -48,4 +48,16 @@ inline QStringList nameless(const QWidget *window)
     }
     return found;
 }
+
+/// The names of the controls of \a window that are not hidden, in the order in which Tab goes through them.
+inline QStringList tabOrder(const QWidget *window)
+{
+    QStringList order;
+    const QWidget *start = window->window();
+    for (QWidget *widget = start->nextInFocusChain(); widget != start; widget = widget->nextInFocusChain()) {
+        if (window->isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus) && !widget->isHidden())
+            order.append(QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name));
+    }
+    return order;
+}
 } // namespace Controls

@@ -1,5 +1,6 @@
 #include "model/ValueLabelElement.h"
 #include "tests/workbench/Bench.h"
+#include "tests/workbench/Controls.h"
 #include "workbench/operations/Find.h"
 #include "workbench/panels/FindPanel.h"
 #include "workbench/panels/Inspector.h"
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void finds();
     void stopsAtTheMost();
     void listsWhileTyping();
+    void tabGoesInReadingOrder();
     void saysThatThereIsMore();
     void goesFromHitToHit();
     void showsTheValueLabel();
@@ -137,6 +139,14 @@ void TestFind::listsWhileTyping()
     m_panel->field()->clear();
     QTRY_COMPARE(shown(), QStringList());
     QCOMPARE(m_panel->summary()->text(), QString());
+}
+
+void TestFind::tabGoesInReadingOrder()
+{
+    QCOMPARE(Controls::tabOrder(m_panel.get()),
+             QStringList({u"Find in the dictionary"_s, u"Find in: Names"_s, u"Find in: Aliases"_s,
+                          u"Find in: Labels"_s, u"Find in: Groups"_s, u"Find in: Value labels"_s,
+                          u"Match case"_s, u"Whole words"_s, u"Found"_s}));
 }
 
 void TestFind::saysThatThereIsMore()

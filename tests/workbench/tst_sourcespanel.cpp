@@ -1,5 +1,6 @@
 #include "tests/support/Payloads.h"
 #include "tests/workbench/Bench.h"
+#include "tests/workbench/Controls.h"
 #include "tests/workbench/IsolatedSettings.h"
 #include "workbench/panels/EmptyText.h"
 #include "workbench/panels/SourcesPanel.h"
@@ -26,6 +27,7 @@ private Q_SLOTS:
 
     void startsEmpty();
     void showsEachSourceInItsTab();
+    void tabGoesInReadingOrder();
     void choosesARecord();
     void offersNoChoiceOfOneRecord();
     void filtersWithoutCase();
@@ -139,6 +141,20 @@ void TestSourcesPanel::showsEachSourceInItsTab()
     for (const SourceTab *tab : {m_panel->dataset(), m_panel->csv(), m_panel->lookups()})
         QCOMPARE(tab->view()->currentIndex().row(), 0);
     QVERIFY(append()->isEnabled());
+}
+
+void TestSourcesPanel::tabGoesInReadingOrder()
+{
+    m_panel->setDatasetFields(fields({u"A"_s, u"B"_s}, {u"x"_s, u"y"_s}));
+    m_panel->dataset()->setNotes({SourceProblem()});
+    const QStringList order = Controls::tabOrder(m_panel->dataset());
+    QCOMPARE(order.size(), 6);
+    // After the buttons to open and to append.
+    QCOMPARE(
+        order.mid(2),
+        QStringList({u"Notes (1)…"_s, u"All records"_s, u"Filter Dataset fields"_s, u"Dataset fields"_s}));
+    QCOMPARE(Controls::tabOrder(m_panel->csv()).mid(2),
+             QStringList({u"Filter CSV fields"_s, u"CSV fields"_s}));
 }
 
 void TestSourcesPanel::choosesARecord()

@@ -50,6 +50,7 @@ FindPanel::FindPanel(const Workspace &workspace, QWidget *parent)
     layout->setSpacing(4);
     layout->addWidget(createBar());
     layout->addWidget(m_view);
+    chainControls();
 
     m_quiet.setSingleShot(true);
     m_quiet.setInterval(quiet);
@@ -109,6 +110,16 @@ void FindPanel::addOption(QBoxLayout *bar, const QString &text, Find::Parts part
     connect(option, &QCheckBox::toggled, this, &FindPanel::ask);
     bar->addWidget(option);
     m_parts.append({option, parts});
+}
+
+void FindPanel::chainControls()
+{
+    QList<QWidget *> order{m_field};
+    for (const auto &[option, parts] : std::as_const(m_parts))
+        order.append(option);
+    order += {m_matchCase, m_wholeWords, m_view};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order.at(i - 1), order.at(i));
 }
 
 Find::Query FindPanel::query() const

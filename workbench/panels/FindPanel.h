@@ -50,6 +50,8 @@ protected:
 private:
     QWidget *createBar();
     void addOption(QBoxLayout *bar, const QString &text, Find::Parts parts);
+    /// Lets Tab go as people read.
+    void chainControls();
     void forget();
     void ask();
     void search();

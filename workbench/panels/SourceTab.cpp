@@ -63,6 +63,14 @@ SourceTab::SourceTab(const QString &name, const QString &title, QSortFilterProxy
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SourceTab::selectionChanged);
     connect(m_view, &QAbstractItemView::activated, this, &SourceTab::activated);
+    chainControls();
+}
+
+void SourceTab::chainControls()
+{
+    for (int i = 1; i < m_bar->count(); ++i)
+        setTabOrder(m_bar->itemAt(i - 1)->widget(), m_bar->itemAt(i)->widget());
+    setTabOrder(m_bar->itemAt(m_bar->count() - 1)->widget(), m_view);
 }
 
 void SourceTab::setModel(QAbstractItemModel *model)
@@ -108,6 +116,7 @@ QTableView *SourceTab::view() const
 void SourceTab::addControl(QWidget *control)
 {
     m_bar->insertWidget(m_bar->count() - 1, control);
+    chainControls();
 }
 
 QMimeData *SourceTab::payload() const

@@ -46,6 +46,8 @@ Q_SIGNALS:
 
 private:
     void updateEmptyText();
+    /// Lets Tab go through the bar, then to the list.
+    void chainControls();
 
     QBoxLayout *m_bar;
     EmptyText<QTableView> *m_view;
