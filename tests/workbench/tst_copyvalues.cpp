@@ -7,6 +7,7 @@
 #include "workbench/dialogs/CopyValuesDialog.h"
 #include "workbench/operations/ValueCopies.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void copiesOnlyWhatIsWanted();
     void leavesTheSourceAlone();
     void tellsWhatWillChange();
+    void readsThePreviewAloud();
     void makesNoLayoutForNothing();
     void ticksTheSelectedVariables();
     void startsAtTheFirstTickedVariable();
@@ -139,6 +141,16 @@ void TestCopyValues::tellsWhatWillChange()
              u"One variable will change."_s);
     ValueCopies::apply(sex, all, {});
     QCOMPARE(ValueCopies::preview(sex, all, {}), u"Nothing will change."_s);
+}
+
+void TestCopyValues::readsThePreviewAloud()
+{
+    const CopyValuesDialog dialog(m_bench->workspace());
+    auto *label = dialog.findChild<QLabel *>(u"copyValuesPreview"_s);
+    QCOMPARE(label->text(), u"Tick the variables to copy to."_s);
+    QCOMPARE(QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name), label->text());
+    button(dialog, u"Tick Shown"_s)->click();
+    QCOMPARE(QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name), label->text());
 }
 
 void TestCopyValues::makesNoLayoutForNothing()

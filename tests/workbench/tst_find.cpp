@@ -6,6 +6,7 @@
 #include "workbench/panels/Inspector.h"
 #include "workbench/panels/ValueLabelsPanel.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void finds();
     void stopsAtTheMost();
     void listsWhileTyping();
+    void readsTheSummaryAloud();
     void tabGoesInReadingOrder();
     void saysThatThereIsMore();
     void goesFromHitToHit();
@@ -139,6 +141,14 @@ void TestFind::listsWhileTyping()
     m_panel->field()->clear();
     QTRY_COMPARE(shown(), QStringList());
     QCOMPARE(m_panel->summary()->text(), QString());
+}
+
+void TestFind::readsTheSummaryAloud()
+{
+    m_panel->field()->setText(u"wom"_s);
+    QTRY_COMPARE(m_panel->summary()->text(), u"Found: 1"_s);
+    QCOMPARE(QAccessible::queryAccessibleInterface(m_panel->summary())->text(QAccessible::Name),
+             u"Found: 1"_s);
 }
 
 void TestFind::tabGoesInReadingOrder()

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void movesVariablesByKeyboard();
     void offersOnlyWhereItCanStand();
     void saysWhatWillChange();
+    void readsThePreviewAloud();
     void saysOnlySoMuch();
     void changesNothingWhenCancelled();
     void closesWhenTheDictionaryChanges();
@@ -171,6 +172,19 @@ void TestMoveDialog::saysWhatWillChange()
              u"Variables that will stand at the end of FARM: 1\n"
              "AGE will be called AGE_2, since the name is taken there.\n"
              "PERSON will have no reference code and not be selectable."_s);
+}
+
+void TestMoveDialog::readsThePreviewAloud()
+{
+    const MoveDialog *dialog = open(ActionId::EntityMoveTo);
+    QVERIFY(dialog);
+    for (const int key : {int(Qt::Key_Home), int(Qt::Key_End)}) {
+        QTest::keyClick(view(dialog), Qt::Key(key));
+        auto *label = dialog->findChild<QLabel *>(u"movePreview"_s);
+        QCOMPARE(QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name), preview(dialog));
+        QCOMPARE(QAccessible::queryAccessibleInterface(view(dialog))->text(QAccessible::Description),
+                 preview(dialog));
+    }
 }
 
 void TestMoveDialog::saysOnlySoMuch()

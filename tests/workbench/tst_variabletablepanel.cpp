@@ -6,6 +6,7 @@
 #include "tests/workbench/Bench.h"
 #include "workbench/panels/VariableTablePanel.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void leavesNothingSelectedWithoutAFilter();
     void takesWhatAFilterLeavesAtOnce();
     void filtersAsQuicklyWhateverIsSelected();
+    void readsTheNumberOfVariablesAloud();
     void doesNotMoveWhileFiltered();
     void selectsNeighboursAsOneRange();
     void staysWhereItIsWhenAnImportIsRefused();
@@ -445,6 +447,12 @@ void TestVariableTablePanel::filtersAsQuicklyWhateverIsSelected()
     };
     // 30 when rows go while they are selected, hundreds when each gap is followed.
     QVERIFY(growth(filter, false, true) < 8);
+}
+
+void TestVariableTablePanel::readsTheNumberOfVariablesAloud()
+{
+    auto *count = m_panel->findChild<QLabel *>();
+    QCOMPARE(QAccessible::queryAccessibleInterface(count)->text(QAccessible::Name), u"Variables: 3"_s);
 }
 
 void TestVariableTablePanel::doesNotMoveWhileFiltered()

@@ -54,7 +54,7 @@ CopyValuesDialog::CopyValuesDialog(const Workspace &workspace)
     layout->addWidget(createChoices());
     addList();
     m_preview->setObjectName(u"copyValuesPreview"_s);
-    m_preview->setAccessibleName(tr("What will change"));
+    m_preview->setAccessibleDescription(tr("What will change"));
     m_preview->setWordWrap(true);
     layout->addWidget(m_preview);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);

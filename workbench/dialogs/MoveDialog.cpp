@@ -101,7 +101,7 @@ MoveDialog::MoveDialog(const Workspace &workspace, What what)
     auto *layout = new QVBoxLayout(this);
     addTree();
     m_preview->setObjectName(u"movePreview"_s);
-    m_preview->setAccessibleName(tr("What will change"));
+    m_preview->setAccessibleDescription(tr("What will change"));
     m_preview->setTextFormat(Qt::PlainText);
     m_preview->setWordWrap(true);
     layout->addWidget(m_preview);
@@ -164,6 +164,7 @@ QString MoveDialog::preview() const
 void MoveDialog::refresh()
 {
     m_preview->setText(preview());
+    m_view->setAccessibleDescription(m_preview->text());
     m_ok->setEnabled(target());
 }
 

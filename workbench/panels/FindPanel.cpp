@@ -43,7 +43,7 @@ FindPanel::FindPanel(const Workspace &workspace, QWidget *parent)
     m_columns = std::make_unique<ColumnMemory>(m_view, u"find"_s);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_summary->setAccessibleName(tr("What was found"));
+    m_summary->setAccessibleDescription(tr("What was found"));
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 0);

@@ -39,7 +39,7 @@ VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *pare
     m_view->setDragDropMode(QAbstractItemView::DropOnly);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_view->horizontalHeader()->setStretchLastSection(false);
-    m_count->setAccessibleName(tr("Number of variables"));
+    m_count->setAccessibleDescription(tr("Number of variables"));
 
     auto *bar = new QHBoxLayout;
     bar->addWidget(m_filter, 1);
