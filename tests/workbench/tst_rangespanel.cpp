@@ -30,6 +30,7 @@ private Q_SLOTS:
     void keepsABoundThatIsOnlyLookedAt_data();
     void keepsABoundThatIsOnlyLookedAt();
     void storesNothingForANewRangeLeftAtZero();
+    void commitsNothingThatOthersAreEditing();
     void showsEveryDigit_data();
     void showsEveryDigit();
     void followsAChangeOfTheType();
@@ -205,6 +206,19 @@ void TestRangesPanel::storesNothingForANewRangeLeftAtZero()
     QTRY_VERIFY(!editor() || !editor()->isVisible());
     QCOMPARE(held(), QStringList({u"0..0"_s}));
     QCOMPARE(m_bench->document.undoStack()->count(), 1);
+}
+
+void TestRangesPanel::commitsNothingThatOthersAreEditing()
+{
+    fill({1});
+    // Painting the rows anew after somebody else's step is no edit.
+    m_bench->variable(u"SEX"_s)->setLabel(u"being edited"_s);
+    m_bench->entity(u"DEATH"_s)->setLabel(u"Deaths"_s);
+    m_bench->document.commit(u"a label"_s, m_bench->entity(u"DEATH"_s));
+    QCOMPARE(m_bench->document.undoStack()->count(), 1);
+    // The step is there all the same when it is asked for.
+    QVERIFY(m_bench->document.commit());
+    QCOMPARE(m_bench->document.undoStack()->count(), 2);
 }
 
 void TestRangesPanel::showsEveryDigit_data()

@@ -74,10 +74,12 @@ void ItemsPanel::refresh()
     bool same = now.size() == m_model->rowCount();
     for (int row = 0; same && row < m_model->rowCount(); ++row)
         same = m_model->index(row, 0).internalPointer() == now.at(row);
-    if (!same)
+    if (!same) {
         showVariable();
-    else if (!now.isEmpty())
+    } else if (!now.isEmpty()) {
+        const QScopedValueRollback committed(m_committing, true); // Nothing is edited here.
         Q_EMIT m_model->dataChanged(m_model->index(0, 0), m_model->index(m_model->rowCount() - 1, 1));
+    }
 }
 
 void ItemsPanel::showVariable()
@@ -96,6 +98,8 @@ void ItemsPanel::showVariable()
         m_model->setParent(this);
         m_proxy->setSourceModel(m_model);
         connect(m_model, &QAbstractItemModel::dataChanged, this, [this] {
+            if (m_committing)
+                return;
             const QScopedValueRollback committing(m_committing, true);
             m_workspace.document->commit({}, m_workspace.selection->entity());
         });
