@@ -50,6 +50,7 @@ private Q_SLOTS:
     void satisfiesTheModelTesterOverAreaUnits();
     void satisfiesTheModelTesterAfterChangesOfTheTree();
     void findsObjects();
+    void looksNoFurtherThanWhatItFinds();
     void announcesRenames();
     void letsAViewScrollToACollapsedPlace();
     void carriesARecursiveFilter();
@@ -150,6 +151,21 @@ void TestRealRowProxy::findsObjects()
     QCOMPARE(proxy.indexOf(root.get()).row(), 0);
     QVERIFY(!proxy.indexOf(nullptr).isValid());
     QVERIFY(!proxy.indexOf(&model).isValid());
+}
+
+void TestRealRowProxy::looksNoFurtherThanWhatItFinds()
+{
+    const auto root = makeEntities(census);
+    CountingTree model(nullptr, root.get());
+    RealRowProxy proxy;
+    proxy.setSourceModel(&model);
+    QVERIFY(proxy.indexOf(root.get()).isValid());
+    const int atOnce = std::exchange(model.asked, 0);
+    QVERIFY(proxy.indexOf(findEntity(root.get(), u"PROVINCE")).isValid());
+    const int earlier = std::exchange(model.asked, 0);
+    QVERIFY(proxy.indexOf(findEntity(root.get(), u"DESK")).isValid());
+    QVERIFY(atOnce < earlier);
+    QVERIFY(earlier < model.asked);
 }
 
 void TestRealRowProxy::announcesRenames()

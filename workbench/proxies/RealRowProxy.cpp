@@ -2,6 +2,8 @@
 
 #include <QList>
 
+#include <tuple>
+
 void RealRowProxy::setSourceModel(QAbstractItemModel *model)
 {
     m_rows.clear();
@@ -35,24 +37,28 @@ QModelIndex RealRowProxy::parent(const QModelIndex &child) const
     return mapFromSource(real);
 }
 
-void RealRowProxy::visit(const std::function<void(const QModelIndex &)> &visitor) const
+QModelIndex RealRowProxy::first(const std::function<bool(const QModelIndex &)> &wanted) const
 {
     QList<QModelIndex> pending{QModelIndex()};
     while (!pending.isEmpty()) {
         const QModelIndex node = pending.takeLast();
-        if (node.isValid())
-            visitor(node);
+        if (node.isValid() && wanted(node))
+            return node;
         for (int row = rowCount(node) - 1; row >= 0; --row)
             pending.append(index(row, 0, node));
     }
+    return {};
+}
+
+void RealRowProxy::visit(const std::function<void(const QModelIndex &)> &visitor) const
+{
+    std::ignore = first([&visitor](const QModelIndex &node) {
+        visitor(node);
+        return false;
+    });
 }
 
 QModelIndex RealRowProxy::indexOf(const void *object) const
 {
-    QModelIndex found;
-    visit([&found, object](const QModelIndex &node) {
-        if (object && !found.isValid() && node.internalPointer() == object)
-            found = node;
-    });
-    return found;
+    return first([object](const QModelIndex &node) { return object && node.internalPointer() == object; });
 }

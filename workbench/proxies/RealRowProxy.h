@@ -28,5 +28,8 @@ public:
     void visit(const std::function<void(const QModelIndex &)> &visitor) const;
 
 private:
+    /// The first node in pre-order that is \a wanted; invalid when none is.
+    [[nodiscard]] QModelIndex first(const std::function<bool(const QModelIndex &)> &wanted) const;
+
     mutable QHash<const void *, int> m_rows; // Where objects were seen last; compared, never followed.
 };
