@@ -92,7 +92,6 @@ void AreaSelectionDialog::addTree()
 {
     m_filtered->setRecursiveFilteringEnabled(true);
     m_filtered->setAutoAcceptChildRows(true); // Of a district found, its towns stay in sight.
-    m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_filtered->setFilterRole(AreaTreeProxy::FilterRole);
     m_filtered->setSourceModel(m_tree);
     m_view = new EmptyText<QTreeView>(this);
@@ -153,7 +152,7 @@ void AreaSelectionDialog::showUnits(std::unique_ptr<SelectionTreeUnit> root)
 
 void AreaSelectionDialog::applyFilter(const QString &text)
 {
-    m_filtered->setFilterFixedString(text.trimmed());
+    Widgets::filterBy(m_filtered, text);
     // What was found lies anywhere; without a filter the first level is enough to start from.
     if (text.trimmed().isEmpty())
         m_view->expandToDepth(0);

@@ -110,13 +110,12 @@ void CopyValuesDialog::addList()
     m_view = table;
     m_proxy->setSourceModel(m_model);
     m_proxy->setFilterKeyColumn(-1);
-    m_proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_view->setModel(m_proxy);
     Widgets::setUpTable(m_view, tr("Variables to copy to"));
     m_view->setSortingEnabled(false);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     connect(m_filter, &QLineEdit::textChanged, m_proxy,
-            [this](const QString &text) { m_proxy->setFilterFixedString(text.trimmed()); });
+            [this](const QString &text) { Widgets::filterBy(m_proxy, text); });
 
     auto *all = new QPushButton(tr("&Tick Shown"), this);
     auto *none = new QPushButton(tr("&Untick Shown"), this);

@@ -81,8 +81,6 @@ QWidget *LabelSetsDialog::createSets()
     auto *list = new EmptyText<QListWidget>(side);
     list->setEmptyText(tr("No two variables have the same value labels."));
     m_list = list;
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setTextElideMode(Qt::ElideRight);
     Widgets::setUpList(m_list, tr("Identical label sets"));
     auto *title = new QLabel(tr("&Sets that variables share"), side);
     title->setBuddy(m_list);

@@ -70,7 +70,7 @@ ReferenceList::ReferenceList(const Texts &texts, ReferenceProxy::Reference refer
     connect(insert, &QAction::triggered, this, &ReferenceList::choose);
     connect(m_view, &QAbstractItemView::doubleClicked, this, &ReferenceList::choose);
     connect(m_filter, &QLineEdit::textChanged, m_proxy, [this](const QString &text) {
-        m_proxy->setFilterFixedString(text.trimmed());
+        Widgets::filterBy(m_proxy, text);
         if (!m_view->currentIndex().isValid())
             m_view->setCurrentIndex(m_proxy->index(0, 0));
     });

@@ -15,6 +15,8 @@
 #include <QLineEdit>
 #include <QTableView>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 // What the variable table does when an action asks for it.
@@ -137,4 +139,18 @@ void VariableTablePanel::importFields(const QMimeData *payload)
 {
     if (m_model)
         m_model->dropMimeData(payload, Qt::CopyAction, -1, -1, {});
+}
+
+void VariableTablePanel::takeImport()
+{
+    const int fields = std::exchange(m_imported, 0);
+    if (fields == 0)
+        return;
+    TDcEntity *entity = m_workspace.selection->entity();
+    const QString text = fields == 1 ? tr("import of a field") : tr("import of %L1 fields").arg(fields);
+    // The person may have refused all of them.
+    if (m_workspace.document->commit(text, entity))
+        m_workspace.selection->select(entity, entity->getVariables()->last());
+    showSelection();
+    updateCount();
 }

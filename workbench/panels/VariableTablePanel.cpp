@@ -32,7 +32,7 @@ VariableTablePanel::VariableTablePanel(const Workspace &workspace, QWidget *pare
       m_proxy(new VariablesDictionaryProxyModel(this))
 {
     m_columns = std::make_unique<ColumnMemory>(m_view, u"variables"_s);
-    m_view->setEmptyText(tr("No variables to show. Add one, or drag fields here from the sources below."));
+    updateEmptyText();
     Widgets::setUpTable(m_view, tr("Variables"));
     m_view->setModel(m_proxy);
     m_view->setAcceptDrops(true);
@@ -130,20 +130,6 @@ void VariableTablePanel::connectModel()
         const QScopedValueRollback committing(m_committing, true);
         m_workspace.document->commit({}, m_workspace.selection->entity());
     });
-}
-
-void VariableTablePanel::takeImport()
-{
-    const int fields = std::exchange(m_imported, 0);
-    if (fields == 0)
-        return;
-    TDcEntity *entity = m_workspace.selection->entity();
-    const QString text = fields == 1 ? tr("import of a field") : tr("import of %L1 fields").arg(fields);
-    // The person may have refused all of them.
-    if (m_workspace.document->commit(text, entity))
-        m_workspace.selection->select(entity, entity->getVariables()->last());
-    showSelection();
-    updateCount();
 }
 
 QList<int> VariableTablePanel::shownRows(const QList<TDcVariable *> &variables) const
@@ -260,10 +246,15 @@ void VariableTablePanel::adoptSelection()
 void VariableTablePanel::setFilter(const QString &text)
 {
     arrange([this, &text] { Widgets::filterBy(m_proxy, text); });
+    updateEmptyText();
+    goOnWithWhatIsShown();
+}
+
+void VariableTablePanel::updateEmptyText()
+{
     m_view->setEmptyText(
         isFiltered() ? tr("No variable matches the filter.")
                      : tr("No variables to show. Add one, or drag fields here from the sources below."));
-    goOnWithWhatIsShown();
 }
 
 void VariableTablePanel::arrange(const std::function<void()> &work)

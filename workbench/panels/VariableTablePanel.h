@@ -13,7 +13,6 @@
 class QLabel;
 class QLineEdit;
 class QMimeData;
-class QModelIndex;
 class TDcEntity;
 class TDcVariable;
 class VariableDiccionaryModel;
@@ -49,6 +48,7 @@ private:
     void arrange(const std::function<void()> &work);
     /// Selects something in what the filter leaves.
     void goOnWithWhatIsShown();
+    void updateEmptyText();
     void updateCount();
     void updateActions();
 
