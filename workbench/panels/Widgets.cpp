@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
+#include <QHash>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
@@ -58,7 +59,7 @@ public:
     }
 };
 
-/// Aligns titles as the cells below them.
+/// Aligns titles as the cells below them, and leaves them there when none are shown.
 class AlignedHeader : public QHeaderView
 {
 public:
@@ -68,10 +69,19 @@ protected:
     void initStyleOptionForIndex(QStyleOptionHeader *option, int section) const override
     {
         QHeaderView::initStyleOptionForIndex(option, section);
-        const QVariant cells = model()->index(0, section).data(Qt::TextAlignmentRole);
-        if (cells.isValid())
-            option->textAlignment = Qt::Alignment(cells.toInt());
+        if (const QModelIndex cell = model()->index(0, section); cell.isValid()) {
+            // A text that happens to be a number says nothing of the others.
+            const bool isText = cell.data().typeId() == QMetaType::QString;
+            const QVariant alignment = cell.data(Qt::TextAlignmentRole);
+            m_alignments.insert(section,
+                                isText || !alignment.isValid() ? option->textAlignment
+                                                               : Qt::Alignment(alignment.toInt()));
+        }
+        option->textAlignment = m_alignments.value(section, option->textAlignment);
     }
+
+private:
+    mutable QHash<int, Qt::Alignment> m_alignments; // By section, as seen last.
 };
 
 /// Scrolls up and down only, and so is never narrower than what it shows: texts are longer in one language
