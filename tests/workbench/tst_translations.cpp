@@ -262,7 +262,8 @@ void TestTranslations::titlesTheVariablesOfARun()
     for (const auto step :
          {VariablesPage::Step::Choose, VariablesPage::Step::Split, VariablesPage::Step::Down}) {
         QSortFilterProxyModel *proxy = StepModels::makeProxy(step, &bench.document);
-        proxy->setSourceModel(StepModels::make(step, bench.entity(u"PERSON"_s), proxy));
+        TDcEntity *person = bench.entity(u"PERSON"_s);
+        proxy->setSourceModel(StepModels::make(step, person, StepModels::offered(step, person), proxy));
         QStringList columns;
         for (int column = 0; column < proxy->columnCount(); ++column)
             columns.append(proxy->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());

@@ -11,7 +11,7 @@ RunPage::RunPage(RunDraft *draft, QWidget *parent)
       m_problem(new QLabel(m_row))
 {
     m_problem->setObjectName(u"problem"_s);
-    m_problem->setAccessibleName(tr("What is missing"));
+    m_problem->setAccessibleDescription(tr("What is missing"));
     m_problem->setTextFormat(Qt::PlainText);
     m_problem->setWordWrap(true);
     m_sign->setPixmap(QIcon(u":/icons/res/icons/48px-Warning.png"_s).pixmap(16, 16));
